@@ -1,0 +1,40 @@
+# The two front doors: `make run` and `make test`. Both install what is
+# missing, configure and build first.
+BUILD ?= build
+JOBS ?= $(shell nproc)
+CMAKE_FLAGS ?=
+
+.PHONY: all deps configure build run test bench democard clean
+
+all: build
+
+deps:
+	@tools/setup/install-deps.sh
+
+$(BUILD)/build.ninja: CMakeLists.txt | deps
+	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+
+configure: deps $(BUILD)/build.ninja
+
+build: configure
+	cmake --build $(BUILD) -j $(JOBS)
+
+democard: build
+	cmake --build $(BUILD) --target demo_card
+
+# Starts the viewer on the camera card when one is mounted, else on the demo card.
+run: democard
+	$(BUILD)/tarvik-viewer --demo-card $(BUILD)/demo-card
+
+# Interface tests that need OpenGL or the web engine use the X server started here;
+# the others run on Qt's offscreen platform.
+test: build
+	cd $(BUILD) && xvfb-run -a -s "-screen 0 1920x1080x24" \
+	  ctest --output-on-failure -j $(JOBS) --timeout 600
+
+bench: build
+	cmake --build $(BUILD) --target benchmarks
+	for b in $(BUILD)/bench/bench_*; do [ -x "$$b" ] && "$$b" || exit 1; done
+
+clean:
+	rm -rf $(BUILD)

@@ -1,0 +1,34 @@
+// tarvik-democard --out DIR [--seconds N] [--size WxH]
+// Writes the demo memory card that `make run` opens when no camera card is present.
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "cardgen/card_plan.h"
+
+int main(int argc, char** argv) {
+    std::string out;
+    tarvik::cardgen::CardOptions options;
+    for (int i = 1; i < argc; ++i) {
+        if (!std::strcmp(argv[i], "--out") && i + 1 < argc) out = argv[++i];
+        else if (!std::strcmp(argv[i], "--seconds") && i + 1 < argc) options.seconds = std::atof(argv[++i]);
+        else if (!std::strcmp(argv[i], "--size") && i + 1 < argc)
+            std::sscanf(argv[++i], "%dx%d", &options.width, &options.height);
+        else {
+            std::fprintf(stderr, "usage: %s --out DIR [--seconds N] [--size WxH]\n", argv[0]);
+            return 2;
+        }
+    }
+    if (out.empty()) {
+        std::fprintf(stderr, "usage: %s --out DIR [--seconds N] [--size WxH]\n", argv[0]);
+        return 2;
+    }
+    std::string error;
+    if (!tarvik::cardgen::writeCard(tarvik::cardgen::demoCardPlan(options), out, &error)) {
+        std::fprintf(stderr, "%s\n", error.c_str());
+        return 1;
+    }
+    std::printf("demo card written to %s\n", out.c_str());
+    return 0;
+}
