@@ -1,0 +1,9 @@
+#pragma once
+// Sub-commands of `tarvik`; argv[0] is the sub-command's own name.
+
+namespace tarvik::cli {
+
+int telemetryCommand(int argc, char** argv);
+int cardCommand(int argc, char** argv);
+
+}  // namespace tarvik::cli

@@ -1,0 +1,10 @@
+#include "ui/app/prefs/notification_center.h"
+
+namespace tarvik {
+
+NotificationCenter& NotificationCenter::shared() {
+    static NotificationCenter center;
+    return center;
+}
+
+}  // namespace tarvik
