@@ -1,0 +1,314 @@
+#include "core/library/clip_catalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+using tarvik::ClipCatalogue;
+using tarvik::ClipRowCategory;
+
+namespace {
+
+class TempCard : public ::testing::Test {
+protected:
+    void SetUp() override {
+        char tmpl[] = "/tmp/catalogue_testXXXXXX";
+        root = mkdtemp(tmpl);
+    }
+    void TearDown() override {
+        std::error_code ec;
+        fs::permissions(root, fs::perms::owner_all, fs::perm_options::add, ec);
+        for (auto& p : fs::recursive_directory_iterator(root, fs::directory_options::skip_permission_denied, ec))
+            fs::permissions(p.path(), fs::perms::owner_all, fs::perm_options::add, ec);
+        fs::remove_all(root, ec);
+    }
+    std::string touch(const std::string& rel) {
+        fs::path p = fs::path(root) / rel;
+        fs::create_directories(p.parent_path());
+        std::ofstream(p) << "x";
+        return p.string();
+    }
+    std::vector<std::string> names(const std::vector<std::string>& paths) const {
+        std::vector<std::string> out;
+        for (auto& p : paths) out.emplace_back(ClipCatalogue::fileName(p));
+        return out;
+    }
+    std::vector<std::string> filtered(unsigned idx) {
+        cat.setVideoFileFilterGroupA(idx);
+        cat.applyVideoFileFilter();
+        return names(cat.filteredVideoFileList());
+    }
+    static std::vector<std::string> sorted(std::vector<std::string> v) {
+        std::sort(v.begin(), v.end());
+        return v;
+    }
+
+    std::string root;
+    ClipCatalogue cat;
+};
+
+using Strings = std::vector<std::string>;
+
+}  // namespace
+
+TEST_F(TempCard, ScanTakesRootAndListedFoldersAtAnyDepthOnly) {
+    touch("root.mp4");
+    touch("cont_rec/c.mp4");
+    touch("cont_rec/2026/11/21/deep.avi");
+    touch("misc/never.mp4");
+    touch("misc/cont_rec/neither.mp4");  // a listed name below an unlisted folder
+    touch("Other/evt_rec.mp4");
+    fs::create_directories(fs::path(root) / "dir.mp4");  // a folder named like a clip
+
+    cat.refreshVideoFileListWithURL(root);
+    EXPECT_EQ(cat.selectedVideoDirectoryUrl(), root);
+    EXPECT_EQ(sorted(names(cat.allVideoFileList())), (Strings{"c.mp4", "deep.avi", "root.mp4"}));
+
+    // The root itself is not recursive: only its own files.
+    EXPECT_EQ(names(ClipCatalogue::getVideoFilesInDirectoryUrl(root, false)), (Strings{"root.mp4"}));
+    EXPECT_TRUE(ClipCatalogue::getVideoFilesInDirectoryUrl(root + "/missing", true).empty());
+    EXPECT_TRUE(ClipCatalogue::getVideoFilesInDirectoryUrl("", true).empty());
+}
+
+TEST_F(TempCard, ScanOrderFollowsTheFixedFolderOrder) {
+    touch("option_rec/a.mp4");
+    touch("Saved_Videos/b.mp4");
+    touch("cont_rec/c.mp4");
+    touch("motion_timelapse_rec/d.mp4");
+    touch("root.mov");
+    cat.refreshVideoFileListWithURL(root);
+    EXPECT_EQ(names(cat.allVideoFileList()), (Strings{"root.mov", "c.mp4", "d.mp4", "b.mp4", "a.mp4"}));
+}
+
+TEST_F(TempCard, ClipFilesAreDecidedByExtensionAlone) {
+    for (const char* n : {"CLIP.MP4", "clip.Mov", "x.avi", "empty.mp4"}) touch(std::string("cont_rec/") + n);
+    for (const char* n : {"clip.mpg", "clip.mp4.tmp", ".hidden.mp4", "mp4", "clip.mp", "clip.mp4 ", "clip."})
+        touch(std::string("cont_rec/") + n);
+    touch("cont_rec/.trash/inside.mp4");  // hidden folders are skipped as a whole
+    cat.refreshVideoFileListWithURL(root);
+    EXPECT_EQ(sorted(names(cat.allVideoFileList())), (Strings{"CLIP.MP4", "clip.Mov", "empty.mp4", "x.avi"}));
+
+    EXPECT_TRUE(ClipCatalogue::isClipFileName("a.AvI"));
+    EXPECT_FALSE(ClipCatalogue::isClipFileName(".mp4"));
+    EXPECT_FALSE(ClipCatalogue::isClipFileName(""));
+}
+
+TEST_F(TempCard, FiltersTakeTheirCompanionFolders) {
+    touch("cont_rec/a_cont.mp4");
+    touch("motion_rec/b_motion.mp4");
+    touch("motion_timelapse_rec/c_lapse.mp4");
+    touch("evt_rec/d_evt.mp4");
+    touch("parking_rec/e_park.mp4");
+    touch("manual_rec/f_manual.mp4");
+    touch("option_rec/g_option.mp4");
+    touch("Saved_Videos/h_saved.mp4");
+    touch("i_root.mp4");
+    cat.refreshVideoFileListWithURL(root);
+
+    EXPECT_EQ(filtered(0), (Strings{"h_saved.mp4", "a_cont.mp4", "b_motion.mp4", "c_lapse.mp4", "d_evt.mp4",
+                                    "e_park.mp4", "f_manual.mp4", "g_option.mp4", "i_root.mp4"}));
+    EXPECT_EQ(filtered(1), (Strings{"a_cont.mp4"}));
+    EXPECT_EQ(filtered(2), (Strings{"b_motion.mp4", "c_lapse.mp4"}));
+    EXPECT_EQ(filtered(3), (Strings{"d_evt.mp4", "e_park.mp4"}));
+    EXPECT_EQ(filtered(4), (Strings{"f_manual.mp4", "g_option.mp4"}));
+
+    // Indices above 4 are not recorded; the filter stays where it was.
+    cat.setVideoFileFilterGroupA(9);
+    EXPECT_EQ(cat.videoFileFilterGroupA(), 4u);
+    EXPECT_TRUE(ClipCatalogue::passesFilter("/x/Saved_Videos/a.mp4", 7));
+    EXPECT_FALSE(ClipCatalogue::passesFilter("/x/Saved_Videos/a.mp4", 1));
+}
+
+TEST_F(TempCard, FilterMatchesFolderNamesAnywhereInThePath) {
+    // A root that happens to contain a folder name: every clip below it passes.
+    const std::string oddRoot = root + "/backup_evt_rec_2026";
+    fs::create_directories(oddRoot);
+    std::ofstream(oddRoot + "/top.mp4");
+    fs::create_directories(oddRoot + "/cont_rec");
+    std::ofstream(oddRoot + "/cont_rec/c.mp4");
+    cat.refreshVideoFileListWithURL(oddRoot);
+    EXPECT_EQ(filtered(3), (Strings{"c.mp4", "top.mp4"}));
+    EXPECT_EQ(filtered(1), (Strings{"c.mp4"}));
+    // Case-sensitive: CONT_REC is not cont_rec.
+    EXPECT_FALSE(ClipCatalogue::passesFilter("/c/CONT_REC/a.mp4", 1));
+}
+
+TEST_F(TempCard, SortPutsSavedFirstThenPlainFileNameOrder) {
+    touch("parking_rec/A.mp4");
+    touch("cont_rec/Z.mp4");
+    touch("cont_rec/a.mp4");
+    touch("cont_rec/10.mp4");
+    touch("cont_rec/9.mp4");
+    touch("Saved_Videos/zz.mp4");
+    touch("Saved_Videos/nested/yy.mp4");
+    cat.refreshVideoFileListWithURL(root);
+    EXPECT_EQ(filtered(0), (Strings{"yy.mp4", "zz.mp4", "10.mp4", "9.mp4", "A.mp4", "Z.mp4", "a.mp4"}));
+
+    EXPECT_TRUE(ClipCatalogue::videoFileLessThan("/r/Saved_Videos/z.mp4", "/r/cont_rec/a.mp4"));
+    EXPECT_FALSE(ClipCatalogue::videoFileLessThan("/r/cont_rec/a.mp4", "/r/Saved_Videos/z.mp4"));
+    // Same name in two folders: neither comes first.
+    EXPECT_FALSE(ClipCatalogue::videoFileLessThan("/r/evt_rec/a.mp4", "/r/cont_rec/a.mp4"));
+    EXPECT_FALSE(ClipCatalogue::videoFileLessThan("/r/cont_rec/a.mp4", "/r/evt_rec/a.mp4"));
+}
+
+TEST_F(TempCard, RowColoursComeFromTheParentFolder) {
+    touch("Saved_Videos/s.mp4");
+    touch("Saved_Videos/sub/n.mp4");
+    touch("option_rec/o.mp4");
+    touch("option_rec/sub/p.mp4");
+    touch("cont_rec/c.mp4");
+    cat.refreshVideoFileListWithURL(root);
+    ASSERT_EQ(cat.rowCount(), 5);
+    auto category = [&](const std::string& name) {
+        for (int r = 0; r < cat.rowCount(); ++r)
+            if (cat.rowFileName(r) == name) return cat.rowCategory(r);
+        ADD_FAILURE() << name;
+        return ClipRowCategory::Normal;
+    };
+    EXPECT_EQ(category("s.mp4"), ClipRowCategory::Saved);
+    EXPECT_EQ(category("n.mp4"), ClipRowCategory::Normal);  // saved, sorted first, but not magenta
+    EXPECT_EQ(category("o.mp4"), ClipRowCategory::Option);
+    EXPECT_EQ(category("p.mp4"), ClipRowCategory::Normal);
+    EXPECT_EQ(category("c.mp4"), ClipRowCategory::Normal);
+    EXPECT_EQ(cat.rowCategory(-1), ClipRowCategory::Normal);
+    EXPECT_EQ(cat.rowCategory(5), ClipRowCategory::Normal);
+    EXPECT_EQ(cat.rowFileName(5), "");
+}
+
+TEST_F(TempCard, SwitchedPlayersTakeTheFrontRearPartner) {
+    const std::string f = touch("evt_rec/20261121_101500_F.mp4");
+    const std::string r = touch("evt_rec/20261121_101500_R.mp4");
+    const std::string lone = touch("evt_rec/20261121_101600_F.mp4");
+    const std::string avi = touch("evt_rec/20261121_101700_F.avi");
+    touch("evt_rec/20261121_101700_R.avi");
+    cat.refreshVideoFileListWithURL(root);
+    ASSERT_EQ(cat.rowCount(), 5);
+    ASSERT_EQ(cat.pathAt(0), f);
+    ASSERT_EQ(cat.pathAt(1), r);
+
+    EXPECT_EQ(cat.takeBigVideoURL(0), f);  // not switched: always the row's own
+    cat.setVideoSwitched(true);
+    EXPECT_EQ(cat.takeBigVideoURL(0), r);
+    EXPECT_EQ(cat.takeBigVideoURL(1), f);
+    EXPECT_EQ(cat.takeBigVideoURL(2), lone);  // neighbours are not its partner
+    EXPECT_EQ(cat.takeBigVideoURL(3), avi);   // only MP4 pairs
+    EXPECT_EQ(cat.takeBigVideoURL(-1), "");
+    EXPECT_EQ(cat.takeBigVideoURL(5), "");
+}
+
+TEST_F(TempCard, PairSwapReplacesEveryOccurrence) {
+    // "F." elsewhere in the path is swapped too, so no partner is found.
+    const std::string f = touch("cont_rec/CAR.F.1/clip_F.mp4");
+    touch("cont_rec/CAR.F.1/clip_R.mp4");
+    cat.refreshVideoFileListWithURL(root);
+    cat.setVideoSwitched(true);
+    ASSERT_EQ(cat.pathAt(0), f);
+    EXPECT_EQ(cat.takeBigVideoURL(0), f);
+
+    EXPECT_EQ(ClipCatalogue::partnerPath("/a/x_F.mp4"), "/a/x_R.mp4");
+    EXPECT_EQ(ClipCatalogue::partnerPath("/a/x_R.mp4"), "/a/x_F.mp4");
+    EXPECT_EQ(ClipCatalogue::partnerPath("/F.d/x_R.mp4"), "/R.d/x_R.mp4");  // F. wins over R.
+    EXPECT_EQ(ClipCatalogue::partnerPath("/a/x.mp4"), "");
+}
+
+TEST(ClipUrl, FileUrlStringEscapesLikeAFileUrl) {
+    EXPECT_EQ(ClipCatalogue::fileUrlString("/card/cont_rec/a b.mp4"), "file:///card/cont_rec/a%20b.mp4");
+    EXPECT_EQ(ClipCatalogue::fileUrlString("/c/100%_#?.mp4"), "file:///c/100%25_%23%3F.mp4");
+    EXPECT_EQ(ClipCatalogue::fileUrlString("/c/\xC3\xA9\xFF.mp4"), "file:///c/%C3%A9%FF.mp4");
+    // A byte ending in F before a dot looks like "F." in the URL, but the pair
+    // rule must not treat the escape as a camera letter.
+    EXPECT_EQ(ClipCatalogue::partnerPath("/c/\xC3\xAF.mp4"), "");
+    EXPECT_EQ(ClipCatalogue::partnerPath("/c/\xC3\xAF_R.mp4"), "/c/\xC3\xAF_F.mp4");
+}
+
+TEST_F(TempCard, RemovalDeletesTheFileThenBothListEntries) {
+    const std::string a = touch("cont_rec/a_F.mp4");
+    const std::string b = touch("cont_rec/a_R.mp4");
+    cat.refreshVideoFileListWithURL(root);
+    ASSERT_EQ(cat.rowCount(), 2);
+
+    EXPECT_FALSE(cat.removeFile(-1));
+    EXPECT_FALSE(cat.removeFile(2));
+    EXPECT_EQ(cat.rowCount(), 2);
+
+    EXPECT_TRUE(cat.removeFile(0));
+    EXPECT_FALSE(fs::exists(a));
+    EXPECT_TRUE(fs::exists(b));  // the partner stays
+    EXPECT_EQ(cat.filteredVideoFileList(), (Strings{b}));
+    EXPECT_EQ(cat.allVideoFileList(), (Strings{b}));
+
+    // Gone behind our back: the delete fails and nothing changes.
+    fs::remove(b);
+    EXPECT_FALSE(cat.removeFile(0));
+    EXPECT_EQ(cat.rowCount(), 1);
+    EXPECT_EQ(cat.allVideoFileList().size(), 1u);
+}
+
+TEST_F(TempCard, RemovingTheOnlyClipLeavesNoRows) {
+    touch("manual_rec/only.mp4");
+    touch("cont_rec/other.mp4");
+    cat.refreshVideoFileListWithURL(root);
+    cat.setVideoFileFilterGroupA(4);
+    cat.applyVideoFileFilter();
+    ASSERT_TRUE(cat.hasRows());
+    EXPECT_TRUE(cat.removeFile(0));
+    EXPECT_FALSE(cat.hasRows());
+    EXPECT_EQ(cat.rowCount(), 0);
+    EXPECT_EQ(cat.allVideoFileList().size(), 1u);  // the other filter's clip is still known
+
+    cat.clear();
+    EXPECT_TRUE(cat.allVideoFileList().empty());
+    EXPECT_TRUE(cat.selectedVideoDirectoryUrl().empty());
+    cat.refreshVideoFileList();  // no root: nothing, no crash
+    EXPECT_FALSE(cat.hasRows());
+}
+
+TEST_F(TempCard, BadTreesGiveNoCrashNoHangAndNothingFromOutside) {
+    // Clips outside the card, reachable only through links.
+    char tmpl[] = "/tmp/catalogue_outsideXXXXXX";
+    const std::string outside = mkdtemp(tmpl);
+    std::ofstream(outside + "/stolen.mp4");
+    const std::string good = touch("cont_rec/good.mp4");
+    const fs::path r(root);
+
+    fs::create_directory_symlink(outside, r / "cont_rec" / "link_dir");
+    fs::create_symlink(outside + "/stolen.mp4", r / "cont_rec" / "link_file.mp4");
+    fs::create_symlink(r / "nowhere.mp4", r / "cont_rec" / "dangling.mp4");
+    fs::create_directory_symlink(r, r / "cont_rec" / "loop");          // back to the root
+    fs::create_directory_symlink(r / "cont_rec", r / "evt_rec");      // a listed folder that is a link
+    fs::create_directory_symlink(outside, r / "manual_rec");
+    fs::create_symlink(outside + "/stolen.mp4", r / "root_link.mp4");
+    // A name that is not UTF-8 is kept byte for byte.
+    const std::string latin1 = (r / "cont_rec" / "caf\xE9_F.mp4").string();
+    std::ofstream(latin1) << "x";
+
+    cat.refreshVideoFileListWithURL(root);
+    EXPECT_EQ(sorted(cat.allVideoFileList()), sorted({good, latin1}));
+    cat.setVideoSwitched(true);
+    cat.applyVideoFileFilter();
+    for (int row = 0; row < cat.rowCount(); ++row) EXPECT_FALSE(cat.takeBigVideoURL(row).empty());
+
+    // A root chosen through a link is still scanned: it is what the user picked.
+    const fs::path viaLink = fs::path(outside) / "card_link";
+    fs::create_directory_symlink(r, viaLink);
+    cat.refreshVideoFileListWithURL(viaLink.string());
+    EXPECT_EQ(cat.rowCount(), 2);
+
+    std::error_code ec;
+    fs::remove_all(outside, ec);
+}
+
+TEST_F(TempCard, UnreadableFolderYieldsNothing) {
+    touch("cont_rec/ok.mp4");
+    const std::string locked = touch("evt_rec/locked/hidden_from_us.mp4");
+    fs::permissions(fs::path(locked).parent_path(), fs::perms::none);
+    // Root reads through permissions; the case cannot be made here.
+    if (access(fs::path(locked).parent_path().c_str(), R_OK) == 0) GTEST_SKIP() << "running as root";
+    cat.refreshVideoFileListWithURL(root);
+    EXPECT_EQ(names(cat.allVideoFileList()), (Strings{"ok.mp4"}));
+}
