@@ -1,0 +1,98 @@
+#include <cstring>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "core/telemetry/orvo_clip_data.h"
+#include "core/telemetry/second_resampler.h"
+#include "core/telemetry/telemetry_readers.h"
+#include "core/telemetry/telemetry_records.h"
+#include "core/telemetry/text_fields.h"
+
+namespace tarvik::readers {
+
+namespace {
+
+// A second never holds more readings than this; later ones are dropped.
+constexpr std::size_t kMaxReadingsPerSecond = 60;
+
+std::uint32_t le32(const unsigned char* p) {
+    return static_cast<std::uint32_t>(p[0]) | static_cast<std::uint32_t>(p[1]) << 8 |
+           static_cast<std::uint32_t>(p[2]) << 16 | static_cast<std::uint32_t>(p[3]) << 24;
+}
+
+bool isTextChunk(const unsigned char* c) {
+    return c[0] == '0' && (c[1] == '2' || c[1] == '3') && c[2] == 't' && c[3] == 'x';
+}
+
+struct ChunkWalk {
+    ChunkWalk(AviFamily family) : krt(family == AviFamily::Krt), second(raw) {}
+
+    // One text chunk's payload; bytes the file does not have read as zero.
+    void payload(const unsigned char* p, std::size_t len) {
+        auto at = [&](std::size_t i) -> unsigned { return i < len ? p[i] : 0u; };
+        const unsigned kind = at(0);
+        if (kind == 'M') {
+            if (second.pending() >= kMaxReadingsPerSecond) return;
+            GReading g;
+            if (krt) {
+                if (at(4) != 1 || at(5) != 1 || at(6) != 1) return;
+                g.x = static_cast<std::int16_t>(static_cast<int>(at(1)) * 10 - 1280);
+                g.y = static_cast<std::int16_t>(static_cast<int>(at(2)) * 10 - 1280);
+                g.z = static_cast<std::int16_t>(static_cast<int>(at(3)) * 10 - 1280);
+            } else {
+                g.x = static_cast<std::int16_t>(128 - static_cast<int>(at(1)));
+                g.y = static_cast<std::int16_t>(128 - static_cast<int>(at(2)));
+                g.z = static_cast<std::int16_t>(128 - static_cast<int>(at(3)));
+            }
+            second.add(g);
+        } else if (kind == '$' || kind == 'G') {
+            const void* z = std::memchr(p, 0, len);
+            const std::size_t textLen = z ? static_cast<std::size_t>(static_cast<const unsigned char*>(z) - p) : len;
+            f.clear();
+            text::splitBounded(std::string_view(reinterpret_cast<const char*>(p), textLen), ',', f);
+            if (f[0] != "G$GPRMC" && f[0] != "$GPRMC") return;
+            held = records::gpsFix(f);
+            second.close(held);
+        } else if (kind == 'T' && !krt) {
+            // A second the camera had no position for.
+            held = GpsFix{};
+            second.close(held);
+        }
+    }
+
+    bool krt;
+    RawSamples raw;
+    SecondResampler second;
+    GpsFix held;
+    std::vector<std::string_view> f;
+};
+
+}  // namespace
+
+int readAviChunks(const MappedFile& file, AviFamily family, OrvoClipData& out) {
+    out.setGpsDataCount(0);
+    const unsigned char* d = file.data();
+    const std::size_t n = file.size();
+    if (n < 12 || std::memcmp(d, "RIFF", 4) != 0 || std::memcmp(d + 8, "AVI ", 4) != 0) return 0;
+
+    auto walk = std::make_unique<ChunkWalk>(family);
+    // Lists are descended into by reading on past their type, so the walk is flat.
+    std::uint64_t pos = 12;
+    while (pos + 8 <= n && !walk->raw.full()) {
+        const unsigned char* h = d + pos;
+        const std::uint64_t size = le32(h + 4);
+        pos += 8;
+        if (std::memcmp(h, "LIST", 4) == 0) {
+            pos += 4;
+            continue;
+        }
+        if (isTextChunk(h)) walk->payload(d + pos, static_cast<std::size_t>(std::min<std::uint64_t>(size, n - pos)));
+        pos += size + (size & 1);
+        file.releaseBefore(static_cast<std::size_t>(std::min<std::uint64_t>(pos, n)));
+    }
+    if (!walk->raw.full()) walk->second.flushLeftover(walk->held);
+    return walk->raw.finish(out);
+}
+
+}  // namespace tarvik::readers
