@@ -78,7 +78,10 @@ inline constexpr const char* kFullscreenExitButton = "fullscreen_exit_btn_1";   
 
 // ---- Dashboard ---------------------------------------------------------------
 inline constexpr const char* kGpsIcon = "gps_icon";           // 40 x 40
-inline constexpr const char* kMapCover = "mapview_cover";     // 320 x 200
+inline constexpr const char* kMapCover = "mapview_cover";     // 320 x 164
+// Position marker for the map page (":/images/map_marker.svg"); its point,
+// the position, is at the bottom centre.
+inline constexpr const char* kMapMarker = "map_marker";  // 24 x 36
 // Play animation frames, alternating 1 and 2 once a second.
 inline constexpr const char* kEarthFrames[2] = {"earth1", "earth2"};              // 56 x 56
 inline constexpr const char* kShockCarFrames[2] = {"shock_gage1", "shock_gage2"};  // 56 x 56
@@ -138,6 +141,9 @@ inline constexpr const char* kCheckBoxSelected = "check1";
 inline constexpr const char* kCheckBoxDisabled = "pv_dst_check";
 inline constexpr const char* kRadioEmpty = "radio_empty";
 inline constexpr const char* kCheckBoxEmpty = "checkbox_empty";
+
+// Web settings window: back to the page's list.
+inline constexpr const char* kBackButton = "back_btn_1";  // family, 36 x 36
 
 // Pane and alert icons, 48 x 48.
 inline constexpr const char* kMemoryCardIcon = "sd_card_icon";  // card picker, formatting
