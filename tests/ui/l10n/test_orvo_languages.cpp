@@ -1,0 +1,123 @@
+#include <QFile>
+#include <QTranslator>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+#include "core/l10n/localization_keys.h"
+#include "ui/app/prefs/qsettings_store.h"
+#include "ui/l10n/orvo_languages.h"
+
+using tarvik::OrvoLanguages;
+using tarvik::tr_k;
+
+namespace {
+
+void setLanguages(const std::vector<std::string>& codes) {
+    tarvik::QSettingsStore::shared().setStringList("AppleLanguages", codes);
+}
+
+QStringList sourcesOf(const QString& tsPath) {
+    QFile file(tsPath);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QStringList sources;
+    QXmlStreamReader xml(&file);
+    while (xml.readNextStartElement() || !xml.atEnd()) {
+        if (xml.isStartElement() && xml.name() == u"source") sources << xml.readElementText();
+        else xml.readNext();
+    }
+    return sources;
+}
+
+const QStringList kShipped = {"en", "fr", "ja", "pt"};
+
+}  // namespace
+
+class TestOrvoLanguages : public QObject {
+    Q_OBJECT
+private slots:
+    void tablesAreShippedUnderTheirCodes() {
+        for (const QString& code : kShipped) QVERIFY(QFile::exists(":/i18n/tarvik_" + code + ".qm"));
+        QVERIFY(!OrvoLanguages::hasTable("de"));
+        QVERIFY(!OrvoLanguages::hasTable("../i18n/tarvik_en"));
+    }
+
+    void lookupFollowsTheFirstPreferredLanguageAtOnce() {
+        setLanguages({"fr", "en"});
+        QCOMPARE(tr_k("취소"), QString("Annuler"));
+        setLanguages({"ja"});
+        QCOMPARE(tr_k("취소"), QString("キャンセル"));
+        QCOMPARE(tr_k("unknown"), QString("不明"));
+        setLanguages({"pt"});
+        QCOMPARE(tr_k("Q260 : 메모리 파티션"), QString("Partição da memória"));
+    }
+
+    void missingKeyShowsTheKey() {
+        setLanguages({"en"});
+        QCOMPARE(tr_k("없는 키"), QString("없는 키"));
+        // Near misses are different keys: the engine-off texts keep their
+        // unclosed parenthesis, the time-zone texts their double blank.
+        QCOMPARE(tr_k("(시동이 꺼지면 블랙박스를 종료합니다)"), QString("(시동이 꺼지면 블랙박스를 종료합니다)"));
+        QVERIFY(tr_k(tarvik::keys::kEngineOffShutdown) != QString(tarvik::keys::kEngineOffShutdown));
+        QVERIFY(tr_k("(UTC-04:00) Atlantic  Standard Time (Canada)").startsWith("(UTC-04:00) Atlantic Standard"));
+        QCOMPARE(tr_k("(UTC-04:00) Atlantic Standard Time (Canada)"),
+                 QString("(UTC-04:00) Atlantic Standard Time (Canada)"));
+    }
+
+    void languageWithoutTableShowsTheKey() {
+        const std::vector<std::vector<std::string>> cases = {
+            {"de"}, {"ko"}, {"xx", "en"}, {"pt_BR"}, {"EN"}, {"../i18n/tarvik_en"}, {""}, {}};
+        for (const auto& codes : cases) {
+            setLanguages(codes);
+            QCOMPARE(tr_k("취소"), QString("취소"));
+        }
+        tarvik::QSettingsStore::shared().setString("AppleLanguages", "fr");
+        QCOMPARE(tr_k("취소"), QString("Annuler"));  // a lone string reads as a one-entry list
+    }
+
+    void everyEnglishKeyIsTranslatedInEveryLanguage() {
+        const QString dir = QStringLiteral(TARVIK_SOURCE_DIR "/resources/translations/");
+        const QStringList keys = sourcesOf(dir + "tarvik_en.ts");
+        QVERIFY(keys.size() >= 80);
+        QCOMPARE(QSet<QString>(keys.begin(), keys.end()).size(), keys.size());
+        for (const QString& code : kShipped) {
+            QTranslator table;
+            QVERIFY(table.load(OrvoLanguages::tablePath(code)));
+            QCOMPARE(sourcesOf(dir + "tarvik_" + code + ".ts").size(), keys.size());
+            for (const QString& key : keys) {
+                QString text = table.translate("Localizable_M420", key.toUtf8().constData());
+                QVERIFY2(!text.trimmed().isEmpty(), qPrintable(code + ": " + key));
+            }
+        }
+    }
+
+    void keysWithLineBreaksRoundTrip() {
+        setLanguages({"en"});
+        const char* withCrLf[] = {tarvik::keys::kFormatConfirm, tarvik::keys::kFormatInProgress,
+                                  tarvik::keys::kFormatFailed, tarvik::keys::kTouchResetConfirm};
+        for (const char* key : withCrLf) {
+            QVERIFY(QString(key).contains("\r\n"));
+            QString text = tr_k(key);
+            QVERIFY2(text != QString(key), key);
+            QVERIFY2(text.contains("\r\n"), key);
+            // The carriage return belongs to the key: without it there is no entry.
+            QString lfOnly = QString(key).replace("\r\n", "\n");
+            QCOMPARE(tr_k(lfOnly), lfOnly);
+        }
+    }
+
+    void sharedKeyConstantsAreAllInTheTables() {
+        using namespace tarvik::keys;
+        const char* all[] = {kFormatTitle, kFormatConfirm, kFormatInProgress, kFormatCompleted,
+                             kFormatRefused, kFormatFailed, kTouchResetTitle, kTouchResetConfirm,
+                             kParkingModeTitle, kParkingModeOff, kParkingMotionChosen, kTimeLapseChosen,
+                             kModelUnreadable, kEngineOffParking, kEngineOffShutdown, kCardErrorTitle,
+                             kCardCheckMessage, kUnsupportedVideo};
+        for (const QString& code : kShipped) {
+            setLanguages({code.toStdString()});
+            for (const char* key : all) QVERIFY2(tr_k(key) != QString(key), qPrintable(code + ": " + key));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestOrvoLanguages)
+#include "test_orvo_languages.moc"
