@@ -32,6 +32,8 @@ MapController::MapController(QWebEngineView* webView, QObject* parent) : QObject
     setWebView(webView);
 }
 
+QWebEngineView* MapController::webView() const { return webView_; }
+
 void MapController::setWebView(QWebEngineView* webView) {
     if (loadConnection_) {
         disconnect(loadConnection_);

@@ -24,7 +24,7 @@ public:
 
     explicit MapController(QWebEngineView* webView, QObject* parent = nullptr);
 
-    QWebEngineView* webView() const { return webView_; }
+    QWebEngineView* webView() const;
     void setWebView(QWebEngineView* webView);
 
     // Loads the page and runs "initialize()" as soon as it is there.

@@ -28,7 +28,7 @@ OrvoClipData clipWith(const std::vector<G>& samples) {
 QImage render(GravityGraphView& view) {
     QImage image(view.size(), QImage::Format_ARGB32);
     image.fill(Qt::transparent);
-    view.render(&image);
+    view.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
     return image;
 }
 
@@ -47,8 +47,8 @@ private slots:
 void TestGravityGraphView::pointsKeepMagnitudeAndClampAtTheEdge() {
     GravityGraphView view;
     view.resize(200, 60);
-    QCOMPARE(view.baseYPoint(), 30.0);
     view.setClipData(clipWith({{256, -256, 0}, {300, -300, 299}, {-32000, 1000, -299}}));
+    QCOMPARE(view.baseYPoint(), 30.0);
 
     const auto& gx = view.gxPointList();
     const auto& gy = view.gyPointList();

@@ -59,7 +59,7 @@ void TestMapController::moveCommandPutsLongitudeFirst() {
     QCOMPARE(MapController::moveScript(-33.868820f, 151.209290f),
              QString("MapMoveToAuto(151.209290,-33.868820,-1)"));
     QCOMPARE(MapController::moveScript(48.1173f, -11.516667f),
-             QString("MapMoveToAuto(-11.516666,48.117298,-1)"));
+             QString("MapMoveToAuto(-11.516667,48.117298,-1)"));
 }
 
 void TestMapController::routeCollapsesRepeatsAndSkipsLeadingNoFix() {
@@ -115,7 +115,8 @@ void TestMapController::commandsBeforeLoadAreQueuedAndBounded() {
     }
     QVERIFY(controller.pendingScripts().size() <= MapController::kMaxPendingScripts);
     QCOMPARE(controller.pendingScripts().front(), QString("initialize()"));
-    QCOMPARE(controller.pendingScripts().back(), QString("console.log(4999)"));
+    QVERIFY(controller.pendingScripts().contains("console.log(4999)"));
+    QCOMPARE(controller.pendingScripts().filter("MapMoveToAuto").size(), 1);
 }
 
 void TestMapController::pageShowsRouteAndFollowsTheCar() {
@@ -150,19 +151,21 @@ void TestMapController::pageShowsRouteAndFollowsTheCar() {
     QVERIFY(state.value("scale").toBool());
     const QJsonArray route = state.value("route").toArray();
     QCOMPARE(route.size(), 30);
-    QCOMPARE(route.first().toArray().at(0).toDouble(), static_cast<double>(37.5660f));
-    QCOMPARE(route.first().toArray().at(1).toDouble(), static_cast<double>(126.9780f));
+    // The route travels as text with six decimals, so float noise shows.
+    QVERIFY(qAbs(route.first().toArray().at(0).toDouble() - 37.566) < 1e-5);
+    QVERIFY(qAbs(route.first().toArray().at(1).toDouble() - 126.978) < 1e-5);
+    QVERIFY(qAbs(route.last().toArray().at(0).toDouble() - 37.5718) < 1e-5);
     QCOMPARE(state.value("routeStyle").toObject().value("color").toString(), QString("red"));
     QCOMPARE(state.value("routeStyle").toObject().value("weight").toInt(), 4);
     QCOMPARE(state.value("routeStyle").toObject().value("opacity").toDouble(), 0.5);
     QJsonObject marker = state.value("marker").toObject();
-    QCOMPARE(marker.value("lat").toDouble(), static_cast<double>(37.5660f));
+    QVERIFY(qAbs(marker.value("lat").toDouble() - 37.566) < 1e-5);
 
     // The car moves: the marker and the centre follow.
     const Fix later = fixes.back();
     controller.moveToLatLng(later.lat, later.lng);
     QTRY_VERIFY_WITH_TIMEOUT(qAbs(mapState(view).value("marker").toObject().value("lng").toDouble() -
-                                  static_cast<double>(later.lng)) < 1e-6, 5000);
+                                  static_cast<double>(later.lng)) < 1e-5, 5000);
     QTRY_VERIFY_WITH_TIMEOUT(qAbs(mapState(view).value("center").toObject().value("lat").toDouble() -
                                   static_cast<double>(later.lat)) < 1e-5, 5000);
 

@@ -127,7 +127,7 @@ void TestSpeedMeterView::paintedGaugeFollowsSpeed() {
     auto paint = [&view] {
         QImage image(view.size(), QImage::Format_ARGB32);
         image.fill(Qt::black);
-        view.render(&image);
+        view.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
         return image;
     };
     // Count lit pixels along the bar's bottom row: a lit segment is saturated.
