@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "core/device/external_memory.h"
+#include "core/device/volume_list.h"
+
+using namespace tarvik;
+namespace fs = std::filesystem;
+
+namespace {
+
+struct TempDir {
+    TempDir() {
+        std::string t = (fs::temp_directory_path() / "tarvik-vol-XXXXXX").string();
+        path = ::mkdtemp(t.data());
+    }
+    ~TempDir() { fs::remove_all(path); }
+    fs::path path;
+};
+
+void touch(const fs::path& p, const std::string& content = "") {
+    fs::create_directories(p.parent_path());
+    std::ofstream(p) << content;
+}
+
+// A block device in a tree shaped like /sys: devices/<chain>/<disk>[/<part>]
+// with dev/block/<maj:min> linking to it.
+void addDevice(const fs::path& sys, const std::string& majMin, const std::string& chain, const std::string& disk,
+               const std::string& part, const char* removable) {
+    fs::path d = sys / "devices" / chain / "block" / disk;
+    touch(d / "removable", removable);
+    fs::path target = d;
+    if (!part.empty()) {
+        target = d / part;
+        touch(target / "partition", "1");
+    }
+    fs::create_directories(sys / "dev" / "block");
+    fs::create_symlink(fs::relative(target, sys / "dev" / "block"), sys / "dev" / "block" / majMin);
+}
+
+}  // namespace
+
+TEST(Volumes, MountInfoParsing) {
+    const std::string text =
+        "22 1 0:21 / /proc rw,nosuid shared:12 - proc proc rw\n"
+        "29 1 8:1 / / rw,relatime shared:1 - ext4 /dev/sda1 rw\n"
+        "31 29 179:1 / /media/u/CAM\\040CARD rw,relatime shared:30 master:2 - vfat /dev/mmcblk0p1 rw\n"
+        "garbage line\n"
+        "40 29 8:17 / /mnt/nosep rw 8:17 vfat /dev/sdb1 rw\n"
+        "41 29 0:50 / /net rw - nfs4 srv:/x rw";  // no final line end
+    auto e = parseMountInfo(text);
+    ASSERT_EQ(e.size(), 4u);
+    EXPECT_EQ(e[0].fsType, "proc");
+    EXPECT_EQ(e[1].mountPoint, "/");
+    EXPECT_EQ(e[2].mountPoint, "/media/u/CAM CARD");
+    EXPECT_EQ(e[2].major, 179u);
+    EXPECT_EQ(e[2].minor, 1u);
+    EXPECT_EQ(e[2].fsType, "vfat");
+    EXPECT_EQ(e[2].source, "/dev/mmcblk0p1");
+    EXPECT_EQ(e[3].fsType, "nfs4");
+    EXPECT_TRUE(isPseudoOrNetworkFileSystem("proc"));
+    EXPECT_TRUE(isPseudoOrNetworkFileSystem("nfs4"));
+    EXPECT_FALSE(isPseudoOrNetworkFileSystem("vfat"));
+    EXPECT_FALSE(isPseudoOrNetworkFileSystem("exfat"));
+    EXPECT_TRUE(parseMountInfo("").empty());
+    EXPECT_TRUE(parseMountInfo(std::string(100000, '-')).empty());
+
+    // This machine's own table: in mount order, the root first, no pseudo
+    // file systems, no duplicates.
+    ::unsetenv(kVolumesDirEnv);
+    auto table = readMountTable();
+    ASSERT_FALSE(table.empty());
+    auto volumes = mountedVolumePaths();
+    ASSERT_FALSE(volumes.empty());
+    EXPECT_EQ(std::find(volumes.begin(), volumes.end(), "/proc"), volumes.end());
+    auto sorted = volumes;
+    std::sort(sorted.begin(), sorted.end());
+    EXPECT_EQ(std::adjacent_find(sorted.begin(), sorted.end()), sorted.end());
+}
+
+TEST(Volumes, RemovableBlockDevicesBySysfs) {
+    TempDir t;
+    const fs::path sys = t.path;
+    addDevice(sys, "8:17", "pci0000:00/0000:00:14.0/usb2/2-1/2-1:1.0/host6/target6:0:0/6:0:0:0", "sdb", "sdb1", "0");
+    addDevice(sys, "179:1", "platform/fe320000.mmc/mmc_host/mmc1/mmc1:aaaa", "mmcblk1", "mmcblk1p1", "0");
+    addDevice(sys, "8:0", "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0", "sda", "", "0");
+    addDevice(sys, "8:1", "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0", "sdz", "sdz1", "0");
+    addDevice(sys, "8:33", "pci0000:00/0000:00:1f.0/ata3/host2/target2:0:0/2:0:0:0", "sdc", "sdc1", "1");
+    addDevice(sys, "7:0", "virtual", "loop0", "", "0");
+    EXPECT_TRUE(isRemovableBlockDevice(8, 17, sys));   // partition of a USB reader
+    EXPECT_TRUE(isRemovableBlockDevice(179, 1, sys));  // SD/MMC slot
+    EXPECT_TRUE(isRemovableBlockDevice(8, 33, sys));   // flagged removable
+    EXPECT_FALSE(isRemovableBlockDevice(8, 0, sys));   // internal disk
+    EXPECT_FALSE(isRemovableBlockDevice(8, 1, sys));   // its partition
+    EXPECT_FALSE(isRemovableBlockDevice(7, 0, sys));   // disk image
+    EXPECT_FALSE(isRemovableBlockDevice(9, 9, sys));   // unknown device
+    EXPECT_FALSE(isRemovableBlockDevice(8, 17, sys / "missing"));
+}
+
+TEST(Volumes, TestFolderStandsInForTheMountTable) {
+    TempDir t;
+    touch(t.path / "b_card" / ".tarvik-removable");
+    touch(t.path / "b_card" / "DCIM" / "x.mp4");
+    touch(t.path / "a_disk" / "file");
+    touch(t.path / "loose_file");
+    ::setenv(kVolumesDirEnv, t.path.c_str(), 1);
+    auto volumes = mountedVolumePaths();
+    EXPECT_EQ(volumes, (std::vector<std::string>{(t.path / "a_disk").string(), (t.path / "b_card").string()}));
+    EXPECT_TRUE(isEXteranlMemoryWithURL((t.path / "b_card").string()));
+    EXPECT_TRUE(isEXteranlMemoryWithURL((t.path / "b_card" / "DCIM" / "x.mp4").string()));
+    EXPECT_FALSE(isEXteranlMemoryWithURL((t.path / "b_card" / "missing").string()));
+    EXPECT_FALSE(isEXteranlMemoryWithURL((t.path / "a_disk").string()));
+    EXPECT_FALSE(isEXteranlMemoryWithURL(t.path.string()));
+    ::unsetenv(kVolumesDirEnv);
+    EXPECT_FALSE(isEXteranlMemoryWithURL((t.path / "b_card").string()));  // the marker means nothing outside tests
+    EXPECT_FALSE(isEXteranlMemoryWithURL("/proc"));
+    EXPECT_FALSE(isEXteranlMemoryWithURL(""));
+    EXPECT_FALSE(isEXteranlMemoryWithURL("/no/such/volume"));
+}
