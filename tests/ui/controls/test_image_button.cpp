@@ -1,0 +1,210 @@
+// Image families, hover and press behaviour of image buttons, and the image
+// loader they draw with (fed from SVG files written to a temporary folder).
+
+#include <QApplication>
+#include <QFile>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "ui/controls/image_button.h"
+#include "ui/controls/image_library.h"
+
+using tarvik::ImageButton;
+using tarvik::ImageLibrary;
+
+namespace {
+
+void writeSvg(const QString& dir, const QString& name, int w, int h, const char* colour) {
+    QFile f(dir + "/" + name + ".svg");
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' width='%1' height='%2'>"
+                           "<rect width='%1' height='%2' fill='%3'/></svg>")
+                .arg(w).arg(h).arg(colour).toUtf8());
+}
+
+void send(QWidget* w, QEvent::Type type, QPoint pos, Qt::MouseButtons buttons = Qt::NoButton) {
+    const Qt::MouseButton button =
+        (type == QEvent::MouseMove) ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent e(type, QPointF(pos), w->mapToGlobal(QPointF(pos)), button, buttons, Qt::NoModifier);
+    QApplication::sendEvent(w, &e);
+}
+void press(QWidget* w, QPoint pos = {5, 5}) { send(w, QEvent::MouseButtonPress, pos, Qt::LeftButton); }
+void release(QWidget* w, QPoint pos = {5, 5}) { send(w, QEvent::MouseButtonRelease, pos); }
+void drag(QWidget* w, QPoint pos) { send(w, QEvent::MouseMove, pos, Qt::LeftButton); }
+void enter(QWidget* w) {
+    QEnterEvent e(QPointF(5, 5), QPointF(5, 5), w->mapToGlobal(QPointF(5, 5)));
+    QApplication::sendEvent(w, &e);
+}
+void leave(QWidget* w) {
+    QEvent e(QEvent::Leave);
+    QApplication::sendEvent(w, &e);
+}
+
+}  // namespace
+
+class TestImageButton : public QObject {
+    Q_OBJECT
+    QTemporaryDir dir;
+
+private slots:
+    void initTestCase() {
+        QVERIFY(dir.isValid());
+        writeSvg(dir.path(), "play_1", 40, 20, "#101010");
+        writeSvg(dir.path(), "play_2", 40, 20, "#00ff00");
+        writeSvg(dir.path(), "play_3", 40, 20, "#ff0000");
+        QFile bad(dir.path() + "/broken.svg");
+        QVERIFY(bad.open(QIODevice::WriteOnly));
+        bad.write("<svg xmlns='http://www.w3.org/2000/svg' width='10' he");
+        bad.close();
+        writeSvg(dir.path(), "giant", 100000, 100000, "#000");
+        ImageLibrary::setSearchRoots({dir.path()});
+    }
+
+    void loaderFindsRendersAndRefusesSafely() {
+        QCOMPARE(ImageLibrary::imageSize("play_1"), QSize(40, 20));
+        QCOMPARE(ImageLibrary::pixmap("play_1").size(), QSize(40, 20));
+        // The artwork's old ".png" names find the SVG.
+        QCOMPARE(ImageLibrary::pixmap("play_2.png").size(), QSize(40, 20));
+        const QImage big = ImageLibrary::pixmap("play_3", QSize(80, 40)).toImage();
+        QCOMPARE(big.size(), QSize(80, 40));
+        QCOMPARE(QColor(big.pixel(40, 20)), QColor("#ff0000"));
+
+        QVERIFY(ImageLibrary::pixmap("missing").isNull());
+        QVERIFY(!ImageLibrary::exists("missing"));
+        QVERIFY(ImageLibrary::pixmap("").isNull());
+        QVERIFY(ImageLibrary::pixmap("broken").isNull());
+        QVERIFY(ImageLibrary::pixmap("giant").isNull());  // no 40 GB canvas
+    }
+
+    void familyNamesComeFromTheCurrentImage() {
+        ImageButton b;
+        QVERIFY(b.allowAutoMouseEventImage());
+        b.setImage("play_1");
+        QCOMPARE(b.normalImageName(), QString("play_1"));
+        QCOMPARE(b.hoverImageName(), QString("play_2"));
+        QCOMPARE(b.clickImageName(), QString("play_3"));
+
+        b.setImage("brand_link_norvane1.png");
+        QCOMPARE(b.hoverImageName(), QString("brand_link_norvane2"));
+
+        b.setImage("x");  // one character: the stem is empty
+        QCOMPARE(b.normalImageName(), QString("1"));
+        QCOMPARE(b.hoverImageName(), QString("2"));
+        QCOMPARE(b.clickImageName(), QString("3"));
+
+        // Setting a hover image of a family yields the same family.
+        b.setImage("sorting_btn_60_2");
+        QCOMPARE(b.normalImageName(), QString("sorting_btn_60_1"));
+
+        b.setAllowAutoMouseEventImage(false);
+        QCOMPARE(b.hoverImageName(), QString("sorting_btn_60_2"));  // not re-derived until an image is set
+        b.setImage("sorting_btn_60_2");
+        QVERIFY(b.normalImageName().isEmpty() && b.hoverImageName().isEmpty() && b.clickImageName().isEmpty());
+    }
+
+    void hoverPressReleaseSwapImagesAndFire() {
+        ImageButton b("play_1");
+        b.resize(40, 20);
+        QSignalSpy clicked(&b, &ImageButton::clicked);
+        QSignalSpy hovered(&b, &ImageButton::hovered);
+        QSignalSpy exited(&b, &ImageButton::hoverExited);
+
+        enter(&b);
+        QCOMPARE(b.imageName(), QString("play_2"));
+        QCOMPARE(hovered.count(), 1);
+        QCOMPARE(hovered.at(0).at(0).value<ImageButton*>(), &b);
+        press(&b);
+        QCOMPARE(b.imageName(), QString("play_3"));
+        QVERIFY(b.isMouseDown());
+        release(&b);
+        QCOMPARE(b.imageName(), QString("play_2"));
+        QCOMPARE(clicked.count(), 1);
+        QVERIFY(!b.isMouseDown());
+        leave(&b);
+        QCOMPARE(b.imageName(), QString("play_1"));
+        QCOMPARE(exited.count(), 1);
+
+        // Dragged off before release: no action.
+        enter(&b);
+        press(&b);
+        drag(&b, {100, 100});
+        QCOMPARE(b.imageName(), QString("play_1"));
+        QCOMPARE(exited.count(), 2);
+        release(&b, {100, 100});
+        QCOMPARE(clicked.count(), 1);
+
+        // Right button is not a click.
+        QMouseEvent rp(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::RightButton, Qt::RightButton,
+                       Qt::NoModifier);
+        QApplication::sendEvent(&b, &rp);
+        QVERIFY(!b.isMouseDown());
+    }
+
+    void withoutAutoImagesTheImageStaysAndReleaseFiresAnywhere() {
+        ImageButton b;
+        b.setAllowAutoMouseEventImage(false);
+        b.setImage("sorting_btn_60_2");
+        b.resize(40, 20);
+        QSignalSpy clicked(&b, &ImageButton::clicked);
+        QSignalSpy hovered(&b, &ImageButton::hovered);
+        enter(&b);
+        press(&b);
+        QCOMPARE(b.imageName(), QString("sorting_btn_60_2"));
+        drag(&b, {100, 100});
+        leave(&b);
+        release(&b, {100, 100});
+        QCOMPARE(b.imageName(), QString("sorting_btn_60_2"));
+        QCOMPARE(clicked.count(), 1);
+        QCOMPARE(hovered.count(), 0);
+    }
+
+    void disabledButtonIgnoresHoverAndRelease() {
+        ImageButton b("play_1");
+        b.resize(40, 20);
+        b.setEnabled(false);
+        QSignalSpy clicked(&b, &ImageButton::clicked);
+        QSignalSpy hovered(&b, &ImageButton::hovered);
+        enter(&b);
+        QCOMPARE(b.imageName(), QString("play_1"));
+        QCOMPARE(hovered.count(), 0);
+        // Qt would not deliver these to a disabled widget; the handlers must
+        // not fire even when they are called.
+        b.setEnabled(true);
+        press(&b);
+        b.setEnabled(false);
+        release(&b);
+        QCOMPARE(clicked.count(), 0);
+    }
+
+    void removeTargetDetachesReceivers() {
+        ImageButton b("play_1");
+        b.resize(40, 20);
+        int clicks = 0, hovers = 0;
+        connect(&b, &ImageButton::clicked, this, [&] { ++clicks; });
+        connect(&b, &ImageButton::hovered, this, [&] { ++hovers; });
+        b.removeTarget();
+        enter(&b);
+        press(&b);
+        release(&b);
+        QCOMPARE(clicks, 0);
+        QCOMPARE(hovers, 0);
+        QCOMPARE(b.imageName(), QString("play_2"));  // still looks alive
+    }
+
+    void paintsWithoutImagesOrWithTitle() {
+        ImageButton none;
+        none.resize(30, 30);
+        none.setText("파일_전체");
+        QVERIFY(!none.grab().isNull());
+        ImageButton titled("play_1");
+        titled.setText("All");
+        titled.resize(titled.sizeHint());
+        QCOMPARE(titled.sizeHint(), QSize(40, 20));
+        QVERIFY(!titled.grab().isNull());
+    }
+};
+
+QTEST_MAIN(TestImageButton)
+#include "test_image_button.moc"
