@@ -50,7 +50,9 @@ CardPlan demoCardPlan(const CardOptions& o) {
     add("parking_rec/20261121_221000.avi", front, T::AviChunks);
     add("manual_rec/20261121_090000.avi", front, T::TextRecords);
     add("manual_rec/2026_11_21/20261121_091500.mov", front, T::None);
-    add("option_rec/20261121_090500.avi", front, T::AviChunksKrt);
+    // KRT cameras name their clips Rec_, Event_, Park_ or Manual_; the player
+    // picks their reader by that name.
+    add("option_rec/Rec_20261121_090500.avi", front, T::AviChunksKrt);
     add("Saved_Videos/Saved_20261121_083000.mp4", front, T::SrtTrack);
 
     // Things a scan must pass over.
