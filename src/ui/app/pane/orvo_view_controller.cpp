@@ -1,6 +1,7 @@
 #include "ui/app/pane/orvo_view_controller.h"
 
 #include <QDialog>
+#include <typeinfo>
 
 #include "ui/app/pane/orvo_cancel_event_view.h"
 #include "ui/app/prefs/notification_center.h"
@@ -10,10 +11,11 @@ namespace tarvik {
 
 namespace {
 // Exact class membership, not inheritance: a subclass of the cancel view, a
-// scroll area or a group box is not treated as the plain thing.
+// scroll area or a group box is not treated as the plain thing. typeid rather
+// than the meta-object, which a subclass without Q_OBJECT shares with its base.
 template <class T>
 bool isExactly(const QObject* o) {
-    return o && o->metaObject() == &T::staticMetaObject;
+    return o && typeid(*o) == typeid(T);
 }
 }  // namespace
 

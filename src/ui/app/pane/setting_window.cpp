@@ -39,8 +39,10 @@ int SettingWindow::showModalWindow(QWidget* parentWindow, QWidget* paneView, Orv
     const QSize paneSize = paneView ? paneView->size() : QSize(0, 0);
     const QRect parentFrame = parentTop ? parentTop->frameGeometry() : QRect();
 
-    // Transient for the parent so the window manager keeps it in front.
-    if (parentTop && parentWidget() != parentTop) setParent(parentTop, windowFlags());
+    // Transient for the parent so the window manager keeps it in front; only
+    // for the run, so the parent never deletes a window its opener owns.
+    QWidget* const ownParent = parentWidget();
+    if (parentTop && ownParent != parentTop) setParent(parentTop, windowFlags());
     setWindowFlag(Qt::FramelessWindowHint, !showTitleBar);
     setWindowModality(Qt::ApplicationModal);
     setKeyEventDelegate(paneController);
@@ -64,6 +66,7 @@ int SettingWindow::showModalWindow(QWidget* parentWindow, QWidget* paneView, Orv
         layout()->removeWidget(paneView);
         paneView->setParent(nullptr);
     }
+    if (parentWidget() != ownParent) setParent(ownParent, windowFlags());
     return code;
 }
 
@@ -86,7 +89,11 @@ void SettingWindow::languageChange(const QString& code) {
 }
 
 void SettingWindow::forwardToParent(const char* slot) {
-    if (pWindowController_) QMetaObject::invokeMethod(pWindowController_, slot, Qt::DirectConnection);
+    // A parent without the handler is simply not told.
+    if (!pWindowController_) return;
+    const QByteArray signature = QByteArray(slot) + "()";
+    if (pWindowController_->metaObject()->indexOfMethod(signature.constData()) < 0) return;
+    QMetaObject::invokeMethod(pWindowController_, slot, Qt::DirectConnection);
 }
 
 void SettingWindow::languageChangeToEnglish() {
