@@ -47,7 +47,8 @@ bool makeVideo(const VideoSpec& spec, const std::filesystem::path& out, std::str
 
     if (spec.codec == Codec::Hevc) {
         a.insert(a.end(), {"-c:v", "libx265", "-preset", "ultrafast", "-x265-params", "log-level=error"});
-        if (out.extension() != ".avi") a.insert(a.end(), {"-tag:v", "hvc1"});
+        // AVI has no default FourCC for HEVC; without one ffmpeg reads it back as raw video.
+        a.insert(a.end(), {"-tag:v", out.extension() == ".avi" ? "HEVC" : "hvc1"});
     } else {
         a.insert(a.end(), {"-c:v", "libx264", "-preset", "ultrafast", "-tune", "zerolatency"});
     }

@@ -1,0 +1,230 @@
+#include "conversion_fixture.h"
+
+namespace tarvik::testing {
+
+namespace {
+using L = ArgumentList;
+}
+
+TEST(CommandLines, ExactArgumentLists) {
+    using C = FfmpegCommandLines;
+    const L tail = {"-c", "copy", "-y", "-v", "10", "-vcodec", "copy", "-acodec", "copy"};
+    auto line = [&](L head, L end) {
+        head.insert(head.end(), tail.begin(), tail.end());
+        head.insert(head.end(), end.begin(), end.end());
+        return head;
+    };
+    EXPECT_EQ(C::twoStreamPicture("S", 0, false, CodecTagType::H264, "F"), line({"-i", "S", "-map", "0:0"}, {"F"}));
+    EXPECT_EQ(C::twoStreamPicture("S", 1, false, CodecTagType::H264, "R"), line({"-i", "S", "-map", "0:1"}, {"R"}));
+    EXPECT_EQ(C::twoStreamPicture("S", 1, false, CodecTagType::Avc1, "R"),
+              line({"-i", "S", "-map", "0:1"}, {"-vtag", "avc1", "R"}));
+    EXPECT_EQ(C::twoStreamPicture("S", 0, false, CodecTagType::Unknown, "F"),
+              line({"-i", "S", "-map", "0:0"}, {"-vtag", "avc1", "F"}));
+    EXPECT_EQ(C::twoStreamPicture("S", 0, true, CodecTagType::H264, "F"),
+              line({"-i", "S", "-map", "0:0", "-map", "0:2"}, {"F"}));
+    EXPECT_EQ(C::twoStreamPicture("S", 1, true, CodecTagType::Hevc, "R"),
+              line({"-i", "S", "-map", "0:1", "-map", "0:2"}, {"-vtag", "hvc1", "R"}));
+
+    EXPECT_EQ(C::remux("S", CodecTagType::H264, "O"), (L{"-i", "S", "-vcodec", "copy", "-acodec", "copy", "-y", "O"}));
+    const L avc1 = {"-v", "10", "-i", "S", "-vcodec", "copy", "-acodec", "copy", "-vtag", "avc1", "-y", "O"};
+    EXPECT_EQ(C::remux("S", CodecTagType::Avc1, "O"), avc1);
+    EXPECT_EQ(C::remux("S", CodecTagType::Unknown, "O"), avc1);
+    EXPECT_EQ(C::remux("S", CodecTagType::Hevc, "O"),
+              (L{"-i", "S", "-vcodec", "copy", "-acodec", "copy", "-y", "-vtag", "hvc1", "O"}));
+    EXPECT_EQ(C::subtitle("S", "O.srt"), (L{"-i", "S", "-vn", "-an", "-c:s", "text", "O.srt"}));
+}
+
+TEST(PartnerRule, FirstMatchingRuleReplacesEveryOccurrence) {
+    EXPECT_EQ(ClipConverter::partnerPathOf("/c/cont_rec/20261121_083000_F.mp4"), "/c/cont_rec/20261121_083000_R.mp4");
+    EXPECT_EQ(ClipConverter::partnerPathOf("/c/20261121_083000_R.mp4"), "/c/20261121_083000_F.mp4");
+    EXPECT_EQ(ClipConverter::partnerPathOf("/c/x_F_BC.mp4"), "/c/x_R_BC.mp4");
+    EXPECT_EQ(ClipConverter::partnerPathOf("/c/x_R_BC.mp4"), "/c/x_F_BC.mp4");
+    EXPECT_EQ(ClipConverter::partnerPathOf("/c/20261121_083000.mp4"), "");
+    EXPECT_EQ(ClipConverter::partnerPathOf("/c/CAF.E/a_F.mp4"), "/c/CAR.E/a_R.mp4");
+    // "F." wins over "R." even when "R." comes first.
+    EXPECT_EQ(ClipConverter::partnerPathOf("/R./a_F.mp4"), "/R./a_R.mp4");
+}
+
+TEST_F(ConversionTest, OtherContainersPassThroughWithoutFfmpeg) {
+    ClipConverter conv = recordingConverter();
+    for (const char* name : {"a.mov", "b.MOV", "c.mkv", "d"})
+        EXPECT_EQ(conv.checkAndConvertVideo((card / name).string()), std::vector<std::string>{(card / name).string()});
+    EXPECT_TRUE(runs.empty());
+    EXPECT_FALSE(fs::exists(documents / "TarvikViewer" / "temp_video"));
+}
+
+TEST_F(ConversionTest, TwoStreamAviEveryCaseOfTheTable) {
+    struct Case { bool audio; const char* handler; const char* tag; };
+    for (Case c : {Case{false, nullptr, nullptr}, Case{false, "AVC1", "avc1"}, Case{true, nullptr, nullptr},
+                   Case{true, "AVC1", "avc1"}}) {
+        SCOPED_TRACE(std::string("audio=") + (c.audio ? "1" : "0") + " handler=" + (c.handler ? c.handler : "H264"));
+        cardgen::VideoSpec spec;
+        spec.videoStreams = 2;
+        spec.audio = c.audio;
+        const std::string name = std::string("twin_") + (c.audio ? "a" : "n") + (c.handler ? "t" : "p") + ".avi";
+        fs::path avi = makeClip(name, spec);
+        if (c.handler) patchBytes(avi, 112, c.handler);
+        runs.clear();
+        auto files = recordingConverter().checkAndConvertVideo(avi.string());
+        ASSERT_TRUE(files.has_value());
+        ASSERT_EQ(files->size(), 2u);
+        const fs::path folder = documents / "TarvikViewer" / "temp_video" /
+                                (avi.stem().string() + "_" + std::to_string(fs::file_size(avi)));
+        EXPECT_EQ((*files)[0], (folder / (avi.stem().string() + "_f.mov")).string());
+        EXPECT_EQ((*files)[1], (folder / (avi.stem().string() + "_r.mov")).string());
+        ASSERT_EQ(runs.size(), 3u);  // probe, front, rear
+        EXPECT_EQ(runs[1], FfmpegCommandLines::twoStreamPicture(avi, 0, c.audio, Utils::GetAviType(avi), (*files)[0]));
+        EXPECT_EQ(runs[2], FfmpegCommandLines::twoStreamPicture(avi, 1, c.audio, Utils::GetAviType(avi), (*files)[1]));
+        for (const auto& out : *files) {
+            const std::string info = Utils::GetFFMPEGVideoInfo(out);
+            EXPECT_EQ(Utils::GetVideoStreamCountFromVideoInfo(info), 1) << info;
+            EXPECT_EQ(Utils::GetAudioStreamCountFromVideoInfo(info), c.audio ? 1 : 0) << info;
+            if (c.tag) {
+                EXPECT_NE(info.find(c.tag), std::string::npos) << info;
+            }
+            EXPECT_TRUE(decodes(out)) << out;
+        }
+
+        // Opened again: both outputs exist, only the stream count is probed.
+        runs.clear();
+        EXPECT_EQ(recordingConverter().checkAndConvertVideo(avi.string()), files);
+        EXPECT_EQ(runs, (std::vector<L>{{"-i", avi.string()}}));
+    }
+}
+
+TEST_F(ConversionTest, TwoStreamHevcLineWithHvc1Tag) {
+    cardgen::VideoSpec spec;
+    spec.videoStreams = 2;
+    spec.audio = true;
+    spec.codec = cardgen::Codec::Hevc;
+    fs::path avi = makeClip("twin_hevc.avi", spec);
+    for (int stream : {0, 1}) {
+        fs::path out = root / ("hevc_" + std::to_string(stream) + ".mov");
+        Utils::ConvertAviToMovWithArguments(
+            FfmpegCommandLines::twoStreamPicture(avi, stream, true, CodecTagType::Hevc, out));
+        const std::string info = Utils::GetFFMPEGVideoInfo(out);
+        EXPECT_NE(info.find("hvc1"), std::string::npos) << info;
+        EXPECT_TRUE(decodes(out));
+    }
+}
+
+TEST_F(ConversionTest, SingleStreamAviRemuxedAlone) {
+    cardgen::VideoSpec spec;
+    spec.audio = true;
+    fs::path avi = makeClip("20261121_084500.avi", spec);
+    auto files = recordingConverter().checkAndConvertVideo(avi.string());
+    ASSERT_TRUE(files.has_value());
+    ASSERT_EQ(files->size(), 1u);
+    ASSERT_EQ(runs.size(), 2u);
+    EXPECT_EQ(runs[1], FfmpegCommandLines::remux(avi, CodecTagType::H264, (*files)[0]));
+    EXPECT_EQ(Utils::GetAudioStreamCountFromVideoPath((*files)[0]), 1);
+    EXPECT_TRUE(decodes((*files)[0]));
+}
+
+TEST_F(ConversionTest, Mp4PairWithSubtitleTracks) {
+    cardgen::VideoSpec front;
+    front.audio = true;
+    front.subtitleSrt = writeSrt("front.srt", "front cue 1");
+    cardgen::VideoSpec rear;
+    rear.pattern = "smptebars";
+    rear.subtitleSrt = writeSrt("rear.srt", "rear cue 1");
+    fs::path f = makeClip("20261121_083000_F.mp4", front);
+    fs::path r = makeClip("20261121_083000_R.mp4", rear);
+
+    auto files = recordingConverter().checkAndConvertVideo(f.string());
+    ASSERT_TRUE(files.has_value());
+    ASSERT_EQ(files->size(), 2u);
+    const std::string fOut = (*files)[0], rOut = (*files)[1];
+    EXPECT_EQ(fs::path(fOut).filename(), "20261121_083000_F_f.mov");
+    EXPECT_EQ(fs::path(rOut).filename(), "20261121_083000_F_r.mov");
+    const std::string fSrt = Utils::removeFileExtensionFromFilePath(fOut) + ".srt";
+    const std::string rSrt = Utils::removeFileExtensionFromFilePath(rOut) + ".srt";
+    EXPECT_EQ(runs, (std::vector<L>{FfmpegCommandLines::remux(f, CodecTagType::Unknown, fOut),
+                                    FfmpegCommandLines::subtitle(f, fSrt),
+                                    FfmpegCommandLines::remux(r, CodecTagType::Unknown, rOut),
+                                    FfmpegCommandLines::subtitle(r, rSrt)}));
+    for (const auto& out : *files) {
+        EXPECT_NE(Utils::GetFFMPEGVideoInfo(out).find("avc1"), std::string::npos);
+        EXPECT_TRUE(decodes(out));
+    }
+    auto slurp = [](const std::string& p) {
+        std::ifstream in(p);
+        return std::string(std::istreambuf_iterator<char>(in), {});
+    };
+    EXPECT_NE(slurp(fSrt).find("front cue 1"), std::string::npos);
+    EXPECT_NE(slurp(rSrt).find("rear cue 1"), std::string::npos);
+
+    // Everything is cached now: nothing runs a second time.
+    runs.clear();
+    EXPECT_EQ(recordingConverter().checkAndConvertVideo(f.string()), files);
+    EXPECT_TRUE(runs.empty());
+
+    // Front output present, rear missing: only the partner is converted.
+    fs::remove(rOut);
+    runs.clear();
+    EXPECT_EQ(recordingConverter().checkAndConvertVideo(f.string()), files);
+    EXPECT_EQ(runs.size(), 2u);
+    EXPECT_EQ(runs[0], FfmpegCommandLines::remux(r, CodecTagType::Unknown, rOut));
+
+    // Opened from the rear file, the rear clip becomes the first entry.
+    auto fromRear = recordingConverter().checkAndConvertVideo(r.string());
+    ASSERT_TRUE(fromRear.has_value());
+    ASSERT_EQ(fromRear->size(), 2u);
+    EXPECT_EQ(fs::path((*fromRear)[0]).filename(), "20261121_083000_R_f.mov");
+}
+
+TEST_F(ConversionTest, HevcMp4AndLonelyRearClip) {
+    cardgen::VideoSpec hevc;
+    hevc.codec = cardgen::Codec::Hevc;
+    fs::path r = makeClip("20261121_090000_R.mp4", hevc);
+    patchBytes(r, 16, "iso4hvc1");
+    auto files = recordingConverter().checkAndConvertVideo(r.string());
+    ASSERT_TRUE(files.has_value());
+    ASSERT_EQ(files->size(), 1u);  // the front partner is missing
+    EXPECT_EQ(runs[0], FfmpegCommandLines::remux(r, CodecTagType::Hevc, (*files)[0]));
+    EXPECT_NE(Utils::GetFFMPEGVideoInfo((*files)[0]).find("hvc1"), std::string::npos);
+    EXPECT_TRUE(decodes((*files)[0]));
+    // The clip has no subtitle track: no side file, and no complaint.
+    EXPECT_FALSE(fs::exists(Utils::removeFileExtensionFromFilePath((*files)[0]) + ".srt"));
+}
+
+TEST_F(ConversionTest, BadClipsGiveEmptyListsAndNoHang) {
+    ClipConverter conv = recordingConverter();
+    std::ofstream(card / "empty.mp4");
+    std::ofstream(card / "empty.avi");
+    std::ofstream(card / "junk.avi") << std::string(4096, '\x5a');
+    EXPECT_EQ(conv.checkAndConvertVideo((card / "empty.mp4").string()), std::vector<std::string>{});
+    EXPECT_EQ(conv.checkAndConvertVideo((card / "empty.avi").string()), std::vector<std::string>{});
+    EXPECT_EQ(conv.checkAndConvertVideo((card / "junk.avi").string()), std::vector<std::string>{});
+    EXPECT_EQ(conv.checkAndConvertVideo((card / "missing.mp4").string()), std::vector<std::string>{});
+
+    cardgen::VideoSpec audioOnly;  // an AVI whose only stream is sound
+    fs::path sound = root / "sound.avi";
+    ProcessRunner::run(Utils::GetFFMPEGPath(), {"-v", "error", "-f", "lavfi", "-i", "sine=duration=1", "-y",
+                                                sound.string()});
+    EXPECT_EQ(conv.checkAndConvertVideo(sound.string()), std::vector<std::string>{});
+
+    fs::path mp4 = makeClip("trunc.mp4");
+    fs::resize_file(mp4, fs::file_size(mp4) / 2);
+    auto truncated = conv.checkAndConvertVideo(mp4.string());
+    ASSERT_TRUE(truncated.has_value());  // whatever ffmpeg salvages, the call returns
+}
+
+TEST_F(ConversionTest, UncreatableCacheGivesNoResult) {
+    fs::path mp4 = makeClip("a_F.mp4");
+    fs::create_directories(documents);
+    std::ofstream(documents / "TarvikViewer") << "a file in the way";
+    EXPECT_FALSE(recordingConverter().checkAndConvertVideo(mp4.string()).has_value());
+    EXPECT_TRUE(runs.empty());
+}
+
+TEST_F(ConversionTest, ChangedSourceGetsANewFolder) {
+    fs::path mp4 = makeClip("clip.mp4");
+    ClipConverter conv = recordingConverter();
+    const fs::path before = conv.clipFolderFor(mp4.string());
+    std::ofstream(mp4, std::ios::app) << "tail";
+    EXPECT_NE(conv.clipFolderFor(mp4.string()), before);
+    EXPECT_EQ(before.parent_path(), documents / "TarvikViewer" / "temp_video");
+}
+
+}  // namespace tarvik::testing
