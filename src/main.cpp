@@ -1,9 +1,56 @@
+// tarvik-viewer [--folder PATH] [--demo-card PATH] [--screenshot FILE]
 #include <QApplication>
-#include <QLabel>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QScreen>
+#include <QTimer>
+#include <clocale>
+
+#include "core/app/viewer_preferences.h"
+#include "ui/app/application_style.h"
+#include "ui/app/main_window.h"
+#include "ui/app/main_window_controller.h"
+#include "ui/app/prefs/qsettings_store.h"
+
+#ifndef TARVIK_VERSION
+#define TARVIK_VERSION "0.0.0"
+#endif
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QLabel l("Tarvik Viewer");
-    l.show();
+    QApplication::setApplicationName("Tarvik Viewer");
+    QApplication::setOrganizationName("Tarvik");
+    QApplication::setApplicationVersion(TARVIK_VERSION);
+    QApplication::setApplicationDisplayName("Tarvik Viewer");
+    // libmpv parses numbers with the C library and needs the C convention.
+    std::setlocale(LC_NUMERIC, "C");
+
+    QCommandLineParser cli;
+    cli.setApplicationDescription("Views the clips, driving data and settings of a dash camera's memory card.");
+    cli.addHelpOption();
+    cli.addVersionOption();
+    QCommandLineOption folder("folder", "Open PATH as if it had been chosen as the clip folder.", "PATH");
+    QCommandLineOption demo("demo-card", "Open PATH when no camera card is found.", "PATH");
+    QCommandLineOption shot("screenshot", "Write a picture of the main window to FILE once it is up, then quit.",
+                            "FILE");
+    cli.addOptions({folder, demo, shot});
+    cli.process(app);
+
+    tarvik::applyApplicationStyle(app);
+    tarvik::ViewerPreferences(tarvik::QSettingsStore::shared()).initializeLanguageSetting();
+
+    tarvik::MainWindowController controller;
+    if (cli.isSet(folder)) controller.setStartFolder(QDir(cli.value(folder)).absolutePath());
+    if (cli.isSet(demo)) controller.setFallbackFolder(QDir(cli.value(demo)).absolutePath());
+    if (cli.isSet(shot)) {
+        const QString file = cli.value(shot);
+        QObject::connect(&controller, &tarvik::MainWindowController::startedUp, &app, [&controller, file] {
+            QTimer::singleShot(1500, [&controller, file] {
+                controller.mainWindow()->grab().save(file);
+                QApplication::quit();
+            });
+        });
+    }
+    controller.start();
     return app.exec();
 }

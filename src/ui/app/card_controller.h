@@ -1,0 +1,41 @@
+#pragma once
+// The card's identity in the main window: which camera wrote the card, its
+// clips scanned when it is recognised, and the way to its settings.
+
+#include <QObject>
+
+#include "ui/app/main_window_views.h"
+
+namespace tarvik {
+
+class CatalogueController;
+
+class CardController : public QObject {
+    Q_OBJECT
+public:
+    CardController(const MainWindowViews& views, CatalogueController& catalogue, QObject* parent = nullptr);
+
+    // Looks for the card among the mounted volumes and shows its model; a
+    // recognised card's clips replace the list. True when a model is known.
+    bool updateModelInfo();
+
+    // The settings windows, by model type.
+    void settingButtonTouched();
+    void showSelectFlashMemoryWindow();
+    void showSelectModelWindow();
+    void showSettingWindow();
+    void showSettingWindow_KRT();
+    void showWebSettingWindow();
+
+signals:
+    // Playback pauses before a settings window opens.
+    void pauseVideoRequested();
+
+private:
+    void notYetAvailable(const QString& what);
+
+    const MainWindowViews& v_;
+    CatalogueController& catalogue_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,50 @@
+#include "ui/app/clip_list_model.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QFile>
+#include <QPalette>
+
+#include "core/library/clip_catalogue.h"
+
+namespace tarvik {
+
+ClipListModel::ClipListModel(const ClipCatalogue& catalogue, QObject* parent)
+    : QAbstractTableModel(parent), catalogue_(catalogue) {}
+
+int ClipListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : catalogue_.rowCount();
+}
+
+int ClipListModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 1; }
+
+QVariant ClipListModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid() || index.row() >= catalogue_.rowCount()) return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        // Names on a card are bytes; show what can be shown rather than fail.
+        return QFile::decodeName(QByteArray::fromStdString(catalogue_.rowFileName(index.row())));
+    case Qt::ToolTipRole:
+        return QFile::decodeName(QByteArray::fromStdString(catalogue_.pathAt(index.row())));
+    case Qt::ForegroundRole:
+        switch (catalogue_.rowCategory(index.row())) {
+        case ClipRowCategory::Saved:
+            return QColor(Qt::magenta);
+        case ClipRowCategory::Option:
+            return QColor(Qt::yellow);
+        case ClipRowCategory::Normal:
+            return QApplication::palette().color(QPalette::Text);
+        }
+        return {};
+    default:
+        return {};
+    }
+}
+
+void ClipListModel::reload() {
+    beginResetModel();
+    endResetModel();
+    emit rowsAvailable(catalogue_.hasRows());
+}
+
+}  // namespace tarvik

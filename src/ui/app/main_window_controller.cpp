@@ -1,0 +1,157 @@
+#include "ui/app/main_window_controller.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSlider>
+#include <QTimer>
+
+#include "ui/app/card_controller.h"
+#include "ui/app/catalogue_controller.h"
+#include "ui/app/main_window.h"
+#include "ui/app/main_window_layout.h"
+#include "ui/app/preferences_menu_controller.h"
+#include "ui/app/prefs/notification_center.h"
+#include "ui/app/splash_window.h"
+#include "ui/controls/image_button.h"
+#include "ui/controls/image_library.h"
+#include "ui/device/mount_watcher.h"
+
+namespace tarvik {
+
+MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
+    auto* window = new MainWindow;
+    v_ = MainWindowLayout::build(window);
+    window->setWindowTitle("Tarvik Viewer");
+    window->setWindowIcon(QIcon(ImageLibrary::pixmap("tarvik_viewer_icon", QSize(128, 128))));
+    v_.quitMenuItem->setText(QString("Quit %1").arg("Tarvik Viewer"));
+    connect(v_.quitMenuItem, &QAction::triggered, this, [this] { appExitButtonTouched(); });
+    connect(v_.appExitButton, &QAbstractButton::clicked, this, [this] { appExitButtonTouched(); });
+    connect(v_.appMinimizeButton, &QAbstractButton::clicked, this, [this] { appMinimizeButtonTouched(); });
+    connect(v_.goHomepageButton, &QAbstractButton::clicked, this, [this] { goHomepageButtonTouched(); });
+    connect(window, &MainWindow::resized, this, &MainWindowController::windowDidResize);
+
+    splash_ = std::make_unique<SplashWindow>();
+    const QPixmap splash = ImageLibrary::pixmap("VT7_pcviewer_splash_mac.png");
+    if (!splash.isNull()) {
+        splash_->splashImagView()->setPixmap(splash);
+        splash_->resize(splash.size());
+    } else {
+        splash_->resize(600, 340);
+    }
+
+    catalogue_ = new CatalogueController(v_, this);
+    prefsMenu_ = new PreferencesMenuController(v_.mainMenu, this);
+    card_ = new CardController(v_, *catalogue_, this);
+    connect(catalogue_, &CatalogueController::playVideoWithIdx, this, &MainWindowController::playVideoWithIdx);
+
+    auto& center = NotificationCenter::shared();
+    connect(&center, &NotificationCenter::refreshLanguage, this, &MainWindowController::refreshLanguageHandler);
+    connect(&center, &NotificationCenter::refreshSpeedUnit, this, &MainWindowController::refreshSpeedUnitHandler);
+    mountWatcher_ = new MountWatcher(this);
+    connect(mountWatcher_, &MountWatcher::mountsChanged, this, &MainWindowController::volumeMountHandler);
+
+    window->setKeyEventDelegate(this);
+    v_.seekTimeSliderView->setRange(0, 0);
+    applyLanguageSettings();
+    QMetaObject::invokeMethod(
+        this, [this] { catalogue_->videoFileFilterTouched(v_.fileListAllButton_OEM); }, Qt::QueuedConnection);
+    enableVideoControls(false);
+    updateMovieViewCoverScrren();
+}
+
+MainWindowController::~MainWindowController() { delete v_.mainWindow; }
+
+void MainWindowController::start(int splashMilliseconds) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    splash_->move(screen.center() - splash_->rect().center());
+    splash_->show();
+    QTimer::singleShot(splashMilliseconds, this, &MainWindowController::showMainWindow);
+}
+
+void MainWindowController::showMainWindow() {
+    MainWindow* w = v_.mainWindow;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize size(std::min(1280, screen.width()), std::min(820, screen.height()));
+    w->resize(size.expandedTo(w->minimumSize()));
+    w->move(screen.center() - w->rect().center());
+    w->show();
+    w->raise();
+    w->activateWindow();
+    splash_->hide();
+    QMetaObject::invokeMethod(this, &MainWindowController::buildMapAndMenus, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &MainWindowController::openStartFolder, Qt::QueuedConnection);
+}
+
+void MainWindowController::buildMapAndMenus() {
+    v_.fileListRemoveButton_OEM->setVisible(true);
+    prefsMenu_->buildMenus();
+    v_.mainVersionLabel->setText(QString("Ver %1").arg(QCoreApplication::applicationVersion()));
+    v_.mainVersionLabel->show();
+    windowDidResize();
+}
+
+void MainWindowController::openStartFolder() {
+    if (startFolderOpened_) return;
+    startFolderOpened_ = true;
+    QString folder = startFolder_;
+    if (folder.isEmpty() && !card_->updateModelInfo()) folder = fallbackFolder_;
+    if (!folder.isEmpty()) catalogue_->chooseFolder(QFile::encodeName(folder).toStdString());
+    emit startedUp();
+}
+
+void MainWindowController::enableVideoControls(bool flag) {
+    for (QWidget* c : std::initializer_list<QWidget*>{
+             v_.snapshotButton, v_.printButton, v_.playPauseButton, v_.stopButton, v_.rewindButton,
+             v_.fastForwardButton, v_.playPrevFileButton, v_.playNextFileButton, v_.videoScaleUpButton,
+             v_.videoScaleDownButton, v_.resetVideoScaleButton, v_.fullscreenButton, v_.videoRotateButton,
+             v_.volumeSliderView, v_.seekTimeSliderView, v_.switchVideoButton, v_.muteButton, v_.bigMovieHost,
+             v_.smallMovieHost})
+        c->setEnabled(flag);
+    for (QWidget* d : std::initializer_list<QWidget*>{v_.shockCarImageView, v_.earthImageView, v_.gpsImageView,
+                                                      v_.speedMeterHost})
+        d->setVisible(flag);
+}
+
+void MainWindowController::updateMovieViewCoverScrren() {
+    // Until a player has a movie its cover stands in front of it.
+    v_.bigMovieCoverImageView->setVisible(true);
+    v_.smallMovieCoverImageView->setVisible(true);
+}
+
+void MainWindowController::windowDidResize() { MainWindowLayout::layOut(v_); }
+
+void MainWindowController::applyLanguageSettings() {
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            prefsMenu_->applyLanguageSettings();
+            catalogue_->applyLanguageSettings();
+            // At start the card is looked for once the start folder is settled.
+            if (startFolderOpened_) updateModelInfo();
+            catalogue_->initializeFileSortingButtons();
+        },
+        Qt::QueuedConnection);
+}
+
+bool MainWindowController::updateModelInfo() { return card_->updateModelInfo(); }
+
+void MainWindowController::appExitButtonTouched(QObject*) { QApplication::quit(); }
+
+void MainWindowController::appMinimizeButtonTouched(QObject*) { v_.mainWindow->showMinimized(); }
+
+void MainWindowController::goHomepageButtonTouched(QObject*) {}
+
+void MainWindowController::refreshLanguageHandler() { applyLanguageSettings(); }
+
+void MainWindowController::refreshSpeedUnitHandler() {}
+
+void MainWindowController::volumeMountHandler() { updateModelInfo(); }
+
+}  // namespace tarvik
