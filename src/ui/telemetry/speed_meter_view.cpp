@@ -2,12 +2,16 @@
 
 #include <QFont>
 #include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
 
+#include <algorithm>
 #include <cmath>
 
 #include "ui/app/prefs/notification_center.h"
 #include "ui/app/prefs/qsettings_store.h"
-#include "ui/telemetry/dashboard_images.h"
+#include "ui/controls/image_library.h"
+#include "ui/controls/image_names.h"
 
 namespace tarvik {
 
@@ -16,7 +20,6 @@ namespace {
 constexpr double kMilesPerKilometre = 0.621371;
 // Below this many km/h the read-out stays blank, whichever unit is shown.
 constexpr uint32_t kMinimumShownKmh = 9;
-const QString kUnitMarkImage = QStringLiteral("mph");
 
 bool mphSelected() {
     return QSettingsStore::shared().integer(SpeedMeterView::kSpeedUnitKey).value_or(0) != 0;
@@ -24,17 +27,66 @@ bool mphSelected() {
 
 QString digitName(uint32_t digit) { return QString::number(digit); }
 
+bool drawImage(QPainter& painter, const QString& name, const QRectF& rect) {
+    const QPixmap pixmap = ImageLibrary::pixmap(name, rect.size().toSize());
+    if (pixmap.isNull()) {
+        return false;
+    }
+    painter.drawPixmap(rect, pixmap, QRectF(pixmap.rect()));
+    return true;
+}
+
+// Stand-ins for missing artwork: the same dial, drawn plainly.
+QPainterPath segmentPath(const QRectF& face, int index) {
+    // 24 segments on a 240-degree arc, from lower left clockwise to lower right.
+    const qreal span = 240.0 / SpeedMeterView::kSegmentCount;
+    const qreal start = 210.0 - index * span - 1.0;
+    const QPointF c = face.center();
+    const qreal outer = face.width() * 0.45;
+    const qreal inner = face.width() * 0.36;
+    QPainterPath path;
+    path.arcMoveTo(QRectF(c.x() - outer, c.y() - outer, 2 * outer, 2 * outer), start);
+    path.arcTo(QRectF(c.x() - outer, c.y() - outer, 2 * outer, 2 * outer), start, -(span - 2.0));
+    path.arcTo(QRectF(c.x() - inner, c.y() - inner, 2 * inner, 2 * inner), start - (span - 2.0), span - 2.0);
+    path.closeSubpath();
+    return path;
+}
+
+void drawFallbackFace(QPainter& painter, const QRectF& face) {
+    painter.setPen(QPen(QColor(58, 63, 72), 2));
+    painter.setBrush(QColor(20, 22, 26));
+    painter.drawEllipse(face.adjusted(2, 2, -2, -2));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 168, 38, 40));
+    for (int i = 0; i < SpeedMeterView::kSegmentCount; ++i) {
+        painter.drawPath(segmentPath(face, i));
+    }
+}
+
+void drawFallbackSegment(QPainter& painter, const QRectF& face, int index) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 168, 38));
+    painter.drawPath(segmentPath(face, index));
+}
+
+void drawFallbackText(QPainter& painter, const QRectF& cell, const QString& text, qreal pixels) {
+    QFont font = painter.font();
+    font.setPixelSize(std::max(1, static_cast<int>(pixels)));
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(QColor(240, 240, 240));
+    painter.drawText(cell, Qt::AlignCenter, text);
+}
+
 }  // namespace
 
 SpeedMeterView::SpeedMeterView(QWidget* parent)
-    : QWidget(parent), images_(new DashboardImages) {
+    : QWidget(parent) {
     setSpeedGauge(0);
     // Re-showing the same speed re-reads the unit.
     connect(&NotificationCenter::shared(), &NotificationCenter::refreshSpeedUnit, this,
             [this] { setSpeed(speed_); });
 }
-
-SpeedMeterView::~SpeedMeterView() { delete images_; }
 
 void SpeedMeterView::setSpeedGauge(int value) {
     const int lit = static_cast<int>(std::trunc(value / 10.0));
@@ -87,59 +139,44 @@ void SpeedMeterView::setSpeed(uint32_t kmh) {
 }
 
 void SpeedMeterView::paintEvent(QPaintEvent*) {
+    namespace dial = images::speedometer;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing, true);
-    const QRectF area = rect();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    // The artwork is a square dial; keep it square and centred in any frame.
+    const qreal side = std::min(width(), height());
+    const qreal k = side / dial::kSize;
+    const QPointF origin((width() - side) / 2, (height() - side) / 2);
+    auto place = [&](qreal x, qreal y, qreal w, qreal h) {
+        return QRectF(origin.x() + x * k, origin.y() + y * k, w * k, h * k);
+    };
+    const QRectF face = place(0, 0, dial::kSize, dial::kSize);
 
-    // Read-out: hundreds, tens, ones from left to right, centred above the bar.
-    const qreal digitH = area.height() * 0.55;
-    const qreal digitW = digitH * 0.62;
-    const qreal markW = digitH * 1.1;
-    const qreal groupW = 3 * digitW + markW;
-    const qreal left = area.left() + (area.width() - groupW) / 2;
-    const qreal top = area.top() + area.height() * 0.04;
-    QFont font = painter.font();
-    font.setPixelSize(static_cast<int>(digitH * 0.95));
-    font.setBold(true);
-    for (int place = 2; place >= 0; --place) {
-        const QString& name = digits_[place];
-        if (name.isEmpty()) {
+    if (!drawImage(painter, QString::fromLatin1(images::kSpeedometerBackground), face)) {
+        drawFallbackFace(painter, face);
+    }
+    for (int i = 0; i < kSegmentCount; ++i) {
+        if (gaugeList_[i] &&
+            !drawImage(painter, QString::fromLatin1(images::kSpeedGaugeSegments[i]), face)) {
+            drawFallbackSegment(painter, face, i);
+        }
+    }
+    const int digitX[3] = {dial::kOnesX, dial::kTensX, dial::kHundredsX};
+    for (int slot = 0; slot < 3; ++slot) {
+        if (digits_[slot].isEmpty()) {
             continue;
         }
-        const QRectF cell(left + (2 - place) * digitW, top, digitW, digitH);
-        if (!images_->draw(painter, name, cell)) {
-            painter.setFont(font);
-            painter.setPen(QColor(240, 240, 240));
-            painter.drawText(cell, Qt::AlignCenter, name);
+        const QRectF cell = place(digitX[slot], dial::kDigitY, dial::kDigitWidth, dial::kDigitHeight);
+        if (!drawImage(painter, digits_[slot], cell)) {
+            drawFallbackText(painter, cell, digits_[slot], cell.height() * 0.9);
         }
     }
     if (unitMarkVisible_) {
-        const QRectF cell(left + 3 * digitW + digitW * 0.15, top + digitH * 0.5, markW, digitH * 0.5);
-        if (!images_->draw(painter, kUnitMarkImage, cell)) {
-            QFont small = font;
-            small.setPixelSize(static_cast<int>(digitH * 0.4));
-            painter.setFont(small);
-            painter.setPen(QColor(200, 200, 200));
-            painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("mph"));
+        const QRectF cell = place(dial::kUnitMarkX, dial::kUnitMarkY, 36, 16);
+        if (!drawImage(painter, QString::fromLatin1(images::kSpeedUnitMph), cell)) {
+            painter.fillRect(cell, QColor(20, 22, 26));
+            drawFallbackText(painter, cell, QStringLiteral("mph"), cell.height() * 0.8);
         }
-    }
-
-    // Bar: segments grow taller and shift from green through yellow to red.
-    const qreal barTop = area.top() + area.height() * 0.66;
-    const qreal barH = area.height() - (barTop - area.top()) - 2;
-    const qreal gap = 2;
-    const qreal segW = (area.width() - 4 - gap * (kSegmentCount - 1)) / kSegmentCount;
-    painter.setPen(Qt::NoPen);
-    for (int i = 0; i < kSegmentCount; ++i) {
-        const qreal h = barH * (0.45 + 0.55 * i / (kSegmentCount - 1));
-        const QRectF seg(area.left() + 2 + i * (segW + gap), barTop + barH - h, segW, h);
-        if (gaugeList_[i]) {
-            const qreal hue = 120.0 * (1.0 - static_cast<qreal>(i) / (kSegmentCount - 1)) / 360.0;
-            painter.setBrush(QColor::fromHsvF(hue, 0.9, 0.95));
-        } else {
-            painter.setBrush(QColor(128, 128, 128, 60));
-        }
-        painter.drawRect(seg);
     }
 }
 

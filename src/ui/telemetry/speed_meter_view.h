@@ -12,8 +12,6 @@
 
 namespace tarvik {
 
-class DashboardImages;
-
 class SpeedMeterView : public QWidget {
     Q_OBJECT
 public:
@@ -21,7 +19,6 @@ public:
     static constexpr const char* kSpeedUnitKey = "OrvoViewerSpeedUnit";
 
     explicit SpeedMeterView(QWidget* parent = nullptr);
-    ~SpeedMeterView() override;
 
     // Speed in whole km/h; 0 when there is no position.
     void setSpeed(uint32_t kmh);
@@ -41,7 +38,7 @@ public:
     QString displayedDigits() const;
     bool isSpeedUnitMarkVisible() const { return unitMarkVisible_; }
 
-    QSize sizeHint() const override { return {200, 84}; }
+    QSize sizeHint() const override { return {180, 180}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -51,7 +48,6 @@ private:
     std::array<QString, 3> digits_;  // ones, tens, hundreds
     bool unitMarkVisible_ = false;
     uint32_t speed_ = 0;
-    DashboardImages* images_;
 };
 
 }  // namespace tarvik

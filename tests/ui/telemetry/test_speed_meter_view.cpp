@@ -1,11 +1,14 @@
 #include <QHBoxLayout>
 #include <QImage>
+#include <QLabel>
 #include <QPainter>
 #include <QtTest>
 
 #include "core/telemetry/orvo_clip_data.h"
 #include "ui/app/prefs/notification_center.h"
 #include "ui/app/prefs/qsettings_store.h"
+#include "ui/controls/image_library.h"
+#include "ui/controls/image_names.h"
 #include "ui/telemetry/gravity_graph_view.h"
 #include "ui/telemetry/speed_meter_view.h"
 
@@ -47,6 +50,7 @@ private slots:
     void gaugeSegmentsLightInOrder();
     void unitChangeRedrawsOnNotification();
     void paintedGaugeFollowsSpeed();
+    void missingArtworkStillShowsTheSpeed();
     void dashboardScreenshot();
 };
 
@@ -124,43 +128,62 @@ void TestSpeedMeterView::unitChangeRedrawsOnNotification() {
 void TestSpeedMeterView::paintedGaugeFollowsSpeed() {
     SpeedMeterView view;
     view.resize(view.sizeHint());
-    auto paint = [&view] {
+    auto paint = [&view](uint32_t kmh) {
+        view.setSpeed(kmh);
         QImage image(view.size(), QImage::Format_ARGB32);
         image.fill(Qt::black);
         view.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
         return image;
     };
-    // Count lit pixels along the bar's bottom row: a lit segment is saturated.
-    auto litPixels = [](const QImage& image) {
+    auto changed = [](const QImage& a, const QImage& b, const QRect& area) {
         int n = 0;
-        const int y = image.height() - 4;
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor c = image.pixelColor(x, y);
-            n += c.hsvSaturation() > 150 && c.value() > 150 ? 1 : 0;
-        }
-        return n;
-    };
-    auto inkPixels = [](const QImage& image) {
-        int n = 0;
-        for (int y = 0; y < image.height() / 2; ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                n += qGray(image.pixel(x, y)) > 100 ? 1 : 0;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x) {
+                n += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
             }
         }
         return n;
     };
-    view.setSpeed(0);
-    const QImage still = paint();
-    QCOMPARE(litPixels(still), 0);
-    QCOMPARE(inkPixels(still), 0);
-    view.setSpeed(60);
-    const QImage slow = paint();
-    view.setSpeed(200);
-    const QImage fast = paint();
-    QVERIFY(litPixels(slow) > 0);
-    QVERIFY(litPixels(fast) > 2 * litPixels(slow));
-    QVERIFY(inkPixels(slow) > 0);
-    QVERIFY(inkPixels(fast) > inkPixels(slow));
+    const QRect all(QPoint(0, 0), view.size());
+    // Where the read-out and the unit mark sit on the 180-unit dial.
+    const QRect readout(57, 62, 66, 34);
+    const QRect unitMark(72, 111, 36, 16);
+
+    const QImage still = paint(0);
+    QCOMPARE(changed(still, paint(5), all), 0);
+    const QImage slow = paint(60);
+    const QImage fast = paint(200);
+    QVERIFY(changed(still, slow, readout) > 0);
+    QVERIFY(changed(still, slow, all) > changed(still, slow, readout));
+    // More lit segments at the higher speed.
+    QVERIFY(changed(still, fast, all) - changed(still, fast, readout) >
+            2 * (changed(still, slow, all) - changed(still, slow, readout)));
+    QCOMPARE(changed(still, slow, unitMark), 0);
+
+    setUnit(1);
+    const QImage miles = paint(200);
+    QVERIFY(changed(fast, miles, unitMark) > 0);
+    QVERIFY(changed(fast, miles, readout) > 0);
+}
+
+void TestSpeedMeterView::missingArtworkStillShowsTheSpeed() {
+    const QStringList roots = tarvik::ImageLibrary::searchRoots();
+    tarvik::ImageLibrary::setSearchRoots({QDir::current().absoluteFilePath("no-artwork-here")});
+    SpeedMeterView view;
+    view.resize(120, 120);
+    auto paint = [&view](uint32_t kmh) {
+        view.setSpeed(kmh);
+        QImage image(view.size(), QImage::Format_ARGB32);
+        image.fill(Qt::black);
+        view.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+        return image;
+    };
+    const QImage still = paint(0);
+    const QImage moving = paint(130);
+    tarvik::ImageLibrary::setSearchRoots(roots);
+    QVERIFY(moving.save(QDir::current().absoluteFilePath("speedometer-plain.png")));
+    QVERIFY(still != moving);
+    QVERIFY(still.pixel(60, 60) != qRgb(0, 0, 0));  // the plain dial face is drawn
 }
 
 void TestSpeedMeterView::dashboardScreenshot() {
@@ -170,12 +193,19 @@ void TestSpeedMeterView::dashboardScreenshot() {
     palette.setColor(QPalette::Window, QColor(28, 30, 34));
     panel.setPalette(palette);
     auto* layout = new QHBoxLayout(&panel);
-    auto* graph = new GravityGraphView;
+    // The graph is transparent; the window puts its backdrop behind it.
+    auto* backdrop = new QLabel;
+    backdrop->setPixmap(tarvik::ImageLibrary::pixmap(tarvik::images::kGravityGraphBackground));
+    backdrop->setFixedSize(300, 64);
+    auto* graph = new GravityGraphView(backdrop);
     auto* meter = new SpeedMeterView;
-    graph->setFixedSize(360, 60);
+    auto* milesMeter = new SpeedMeterView;
+    graph->setGeometry(0, 0, 300, 64);
     meter->setFixedSize(meter->sizeHint());
-    layout->addWidget(graph);
+    milesMeter->setFixedSize(150, 150);
+    layout->addWidget(backdrop);
     layout->addWidget(meter);
+    layout->addWidget(milesMeter);
     panel.resize(layout->sizeHint());
     layout->activate();
 
@@ -191,6 +221,10 @@ void TestSpeedMeterView::dashboardScreenshot() {
     }
     graph->setClipData(data);
     meter->setSpeed(87);
+    // The unit is taken when the speed is set, so the two dials can differ.
+    setUnit(1);
+    milesMeter->setSpeed(100);
+    setUnit(0);
 
     const QImage image = panel.grab().toImage();
     const QString path = QDir::current().absoluteFilePath("dashboard.png");
