@@ -1,0 +1,204 @@
+// The main window's own behaviour: its key table, the centring of the tool
+// bar and dashboard, the clip list wired to the catalogue, and the menus.
+#include <QAction>
+#include <QSettings>
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+#include <filesystem>
+#include <fstream>
+
+#include "cardgen/card_plan.h"
+#include "ui/app/catalogue_controller.h"
+#include "ui/app/main_window.h"
+#include "ui/app/main_window_controller.h"
+#include "ui/app/main_window_layout.h"
+#include "ui/app/preferences_menu_controller.h"
+#include "ui/app/prefs/notification_center.h"
+#include "ui/app/prefs/qsettings_store.h"
+#include "ui/controls/image_button.h"
+
+using namespace tarvik;
+namespace fs = std::filesystem;
+
+class KeyRecorder : public QObject {
+    Q_OBJECT
+public:
+    QStringList calls;
+public slots:
+    void appExitButtonTouched(QObject*) { calls << "exit"; }
+    void playPauseButtonTouched(QObject*) { calls << "playPause"; }
+    void volumeUp() { calls << "volumeUp"; }
+};
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+    fs::path card_;
+
+    void touch(const fs::path& p) {
+        fs::create_directories(p.parent_path());
+        std::ofstream(p) << "x";
+    }
+
+private slots:
+    void initTestCase() {
+        card_ = fs::temp_directory_path() / "tarvik-main-window-test";
+        fs::remove_all(card_);
+        touch(card_ / "root_clip.AVI");
+        touch(card_ / "cont_rec/B_F.mp4");
+        touch(card_ / "cont_rec/B_R.mp4");
+        touch(card_ / "parking_rec/A.mp4");
+        touch(card_ / "Saved_Videos/Z.mp4");
+        touch(card_ / "option_rec/C.mov");
+        touch(card_ / "misc/never.mp4");
+        touch(card_ / "cont_rec/notes.txt");
+    }
+    void cleanupTestCase() { fs::remove_all(card_); }
+
+    void keyTableNeedsControlOnlyForQuitAndMinimise() {
+        QCOMPARE(MainWindow::actionForKey(Qt::Key_Q, Qt::NoModifier), nullptr);
+        QCOMPARE(MainWindow::actionForKey(Qt::Key_W, Qt::NoModifier), nullptr);
+        QCOMPARE(MainWindow::actionForKey(Qt::Key_M, Qt::NoModifier), nullptr);
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_Q, Qt::ControlModifier)), "appExitButtonTouched");
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_W, Qt::ControlModifier)), "appExitButtonTouched");
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_M, Qt::ControlModifier)), "appMinimizeButtonTouched");
+        // Keys without a modifier do not look at the modifiers at all.
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_Space, Qt::ShiftModifier)), "playPauseButtonTouched");
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_Return, Qt::NoModifier)), "fullscreenButtonTouched");
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_Escape, Qt::NoModifier)), "hideFullScreenMovie");
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_Left, Qt::NoModifier)), "rewindButtonTouched");
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_Right, Qt::NoModifier)), "fastForwardButtonTouched");
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_Down, Qt::NoModifier)), "volumeDown");
+        QCOMPARE(QByteArray(MainWindow::actionForKey(Qt::Key_Up, Qt::NoModifier)), "volumeUp");
+        QCOMPARE(MainWindow::actionForKey(Qt::Key_A, Qt::ControlModifier), nullptr);
+    }
+
+    void keysReachOnlyActionsTheDelegateHas() {
+        MainWindow w;
+        KeyRecorder r;
+        QVERIFY(!w.handleKeyEvent(Qt::Key_Space, Qt::NoModifier));  // no delegate yet
+        w.setKeyEventDelegate(&r);
+        QTest::keyClick(&w, Qt::Key_Q);                       // without Control: nothing
+        QTest::keyClick(&w, Qt::Key_Q, Qt::ControlModifier);  // quits
+        QTest::keyClick(&w, Qt::Key_Space);
+        QTest::keyClick(&w, Qt::Key_Up);
+        QVERIFY(!w.handleKeyEvent(Qt::Key_Down, Qt::NoModifier));  // the delegate has no volumeDown
+        QCOMPARE(r.calls, (QStringList{"exit", "playPause", "volumeUp"}));
+    }
+
+    void groupsStayCentredOnTheDesignWidth() {
+        MainWindowController c;
+        const MainWindowViews& v = c.views();
+        QCOMPARE(MainWindowLayout::centringOffset(nullptr), -512);
+        const struct { int width, offset; } cases[] = {{1280, 128}, {1024, 0}, {1023, 0}, {1022, -1}, {900, -62}};
+        for (auto k : cases) {
+            v.mainWindow->setMinimumSize(0, 0);
+            v.mainWindow->resize(k.width, 760);
+            c.windowDidResize();
+            QCOMPARE(MainWindowLayout::centringOffset(v.mainWindow), k.offset);
+            QCOMPARE(v.toolbarBg3->x(), k.offset + 25);
+            QCOMPARE(v.dashBg3->x(), k.offset + 18);
+            QCOMPARE(v.toolbarButtons->x(), k.offset + 10);
+            QCOMPARE(v.dashboardCtrls->x(), k.offset + 43);
+        }
+        QCOMPARE(v.toolbarBg3->x(), -62 + 25);  // widths and heights are kept
+        QCOMPARE(v.toolbarBg3->width(), 974);
+    }
+
+    void chosenFolderListsClipsByRecordingType() {
+        MainWindowController c;
+        const MainWindowViews& v = c.views();
+        CatalogueController& cat = c.catalogue();
+        QTableView* table = v.fileListTableView;
+        cat.chooseFolder(card_.string());
+        QCOMPARE(v.selectedDirTextField_OEM->text(), QString::fromStdString(card_.string()));
+        auto names = [&] {
+            QStringList out;
+            for (int r = 0; r < table->model()->rowCount(); ++r) out << table->model()->index(r, 0).data().toString();
+            return out;
+        };
+        // Saved clips first, then by file name alone; nothing from unlisted folders.
+        QCOMPARE(names(), (QStringList{"Z.mp4", "A.mp4", "B_F.mp4", "B_R.mp4", "C.mov", "root_clip.AVI"}));
+        QCOMPARE(cat.selectedRow(), 0);
+        QCOMPARE(table->model()->index(0, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::magenta));
+        QCOMPARE(table->model()->index(4, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::yellow));
+
+        // The Event filter shows parking clips; the selected button keeps its highlighted image.
+        QTest::mouseClick(v.fileListEventButton_OEM, Qt::LeftButton);
+        QCOMPARE(names(), (QStringList{"A.mp4"}));
+        QCOMPARE(v.fileListEventButton_OEM->imageName(), QString("sorting_btn_60_2"));
+        QVERIFY(!v.fileListEventButton_OEM->allowAutoMouseEventImage());
+        QCOMPARE(v.fileListAllButton_OEM->imageName(), QString("sorting_btn_60_1"));
+        QTest::mouseClick(v.fileListManualButton_OEM, Qt::LeftButton);
+        QCOMPARE(names(), (QStringList{"C.mov"}));
+
+        // Removing the only clip of the list deletes the file and disables remove and save.
+        table->selectRow(0);
+        QVERIFY(v.fileListRemoveButton_OEM->isEnabled());
+        cat.removeFileButtonTouched();
+        QVERIFY(!fs::exists(card_ / "option_rec/C.mov"));
+        QCOMPARE(table->model()->rowCount(), 0);
+        QVERIFY(!v.fileListRemoveButton_OEM->isEnabled());
+        QVERIFY(!v.saveFileButton->isEnabled());
+        touch(card_ / "option_rec/C.mov");
+    }
+
+    void doubleClickAsksToPlayTheSelectedRow() {
+        MainWindowController c;
+        QSignalSpy play(&c, &MainWindowController::playVideoWithIdx);
+        c.catalogue().chooseFolder(card_.string());
+        c.views().fileListTableView->selectRow(2);
+        c.catalogue().videoFileListDoubleClicked();
+        QCOMPARE(play.count(), 1);
+        QCOMPARE(play.at(0).at(0).toInt(), 2);
+    }
+
+    void speedUnitMenuStoresTheUnitAndAnnouncesChanges() {
+        QSettings("Tarvik", "Tarvik Viewer").clear();
+        QSettingsStore::shared().synchronize();
+        PreferencesMenuController* menus = nullptr;
+        MainWindowController c;
+        menus = &c.preferencesMenu();
+        menus->buildMenus();
+        // First start: 2 is stored and km/h is marked.
+        QCOMPARE(QSettingsStore::shared().integer("OrvoViewerSpeedUnit"), std::optional<int>(2));
+        QVERIFY(menus->unitKmphMenuItem->isChecked());
+        QVERIFY(!menus->unitMphMenuItem->isChecked());
+        QSignalSpy unit(&NotificationCenter::shared(), &NotificationCenter::refreshSpeedUnit);
+        menus->unitKmphMenuItem->trigger();  // 0 differs from the stored 2
+        QCOMPARE(unit.count(), 1);
+        QCOMPARE(QSettingsStore::shared().integer("OrvoViewerSpeedUnit"), std::optional<int>(0));
+        menus->unitKmphMenuItem->trigger();
+        QCOMPARE(unit.count(), 1);
+        menus->unitMphMenuItem->trigger();
+        QVERIFY(menus->unitMphMenuItem->isChecked() && !menus->unitKmphMenuItem->isChecked());
+        QCOMPARE(unit.count(), 2);
+    }
+
+    void languageMenuRelabelsTheWindow() {
+        QSettingsStore::shared().setString("OrvoViewerLanguage", "en");
+        QSettingsStore::shared().setStringList("AppleLanguages", {"en"});
+        MainWindowController c;
+        PreferencesMenuController& menus = c.preferencesMenu();
+        menus.buildMenus();
+        QTest::qWait(0);
+        const QString english = menus.languageMenu->title();
+        QSignalSpy lang(&NotificationCenter::shared(), &NotificationCenter::refreshLanguage);
+        menus.languageFrenchMenuItem->trigger();
+        QCOMPARE(lang.count(), 1);
+        QVERIFY(menus.languageFrenchMenuItem->isChecked());
+        QVERIFY(!menus.languageEnglishMenuItem->isChecked());
+        QTRY_VERIFY(menus.languageMenu->title() != english);
+        QVERIFY(c.views().fileListAllButton_OEM->text() != QString("파일_전체"));
+        // Portuguese is reached only through a stored value and marks no item.
+        QSettingsStore::shared().setString("OrvoViewerLanguage", "pt");
+        menus.markCurrentLanguage();
+        for (QAction* a : menus.languageMenu->actions()) QVERIFY(!a->isChecked());
+    }
+};
+
+QTEST_MAIN(MainWindowTest)
+#include "test_main_window.moc"

@@ -1,0 +1,94 @@
+// The main window follows the card: a recognised camera card shows its model
+// and its clips; without one the model is unknown and settings are off.
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "cardgen/card_plan.h"
+#include "core/device/external_memory.h"
+#include "core/settings/m420/m420_model_types.h"
+#include "ui/app/card_controller.h"
+#include "ui/app/main_window_controller.h"
+#include "ui/controls/image_button.h"
+#include "ui/l10n/orvo_languages.h"
+
+using namespace tarvik;
+namespace fs = std::filesystem;
+
+class MainWindowCardTest : public QObject {
+    Q_OBJECT
+    fs::path volumes_;
+
+    fs::path mountCard(const std::string& name, int modelType, bool removable) {
+        fs::path root = volumes_ / name;
+        fs::create_directories(root / "cont_rec");
+        std::ofstream(root / "cont_rec" / "20261121_083000_F.mp4") << "x";
+        std::ofstream(root / "cont_rec" / "20261121_083000_R.mp4") << "x";
+        if (removable) std::ofstream(root / kRemovableMarkerFile);
+        std::string error;
+        if (modelType >= 0) {
+            bool ok = cardgen::writeSettingsFiles(root, modelType, &error);
+            if (!ok) qWarning() << error.c_str();
+        }
+        return root;
+    }
+
+private slots:
+    void init() {
+        volumes_ = fs::temp_directory_path() / "tarvik-volumes-test";
+        fs::remove_all(volumes_);
+        fs::create_directories(volumes_);
+        setenv("TARVIK_VOLUMES_DIR", volumes_.c_str(), 1);
+    }
+    void cleanup() { fs::remove_all(volumes_); }
+
+    void noCardLeavesTheModelUnknown() {
+        mountCard("USB_STICK", -1, true);  // removable, but no camera wrote it
+        MainWindowController c;
+        QVERIFY(!c.updateModelInfo());
+        QCOMPARE(c.views().modelTextField->text(), tr_k("unknown"));
+        QVERIFY(!c.views().settingsButton->isEnabled());
+        QCOMPARE(c.views().fileListTableView->model()->rowCount(), 0);
+    }
+
+    void recognisedCardShowsItsModelAndClips() {
+        mountCard("SDCARD", cardgen::demoModelType(), true);
+        MainWindowController c;
+        QVERIFY(c.updateModelInfo());
+        QVERIFY(c.views().settingsButton->isEnabled());
+        QVERIFY(!c.views().modelTextField->text().isEmpty());
+        QVERIFY(c.views().modelTextField->text() != tr_k("unknown"));
+        QCOMPARE(c.views().fileListTableView->model()->rowCount(), 2);
+    }
+
+    void unmountingTheCardEmptiesTheList() {
+        fs::path card = mountCard("SDCARD", cardgen::demoModelType(), true);
+        MainWindowController c;
+        QVERIFY(c.updateModelInfo());
+        fs::remove_all(card);
+        c.volumeMountHandler();
+        QCOMPARE(c.views().fileListTableView->model()->rowCount(), 0);
+        QCOMPARE(c.views().modelTextField->text(), tr_k("unknown"));
+    }
+
+    void startFallsBackToTheDemoFolderWithoutACard() {
+        fs::path demo = volumes_.parent_path() / "tarvik-demo-folder-test";
+        fs::remove_all(demo);
+        fs::create_directories(demo / "evt_rec");
+        std::ofstream(demo / "evt_rec" / "crash.avi") << "x";
+        MainWindowController c;
+        c.setFallbackFolder(QString::fromStdString(demo.string()));
+        QSignalSpy up(&c, &MainWindowController::startedUp);
+        c.start(10);
+        QTRY_COMPARE(up.count(), 1);
+        QCOMPARE(c.views().fileListTableView->model()->rowCount(), 1);
+        fs::remove_all(demo);
+    }
+};
+
+QTEST_MAIN(MainWindowCardTest)
+#include "test_main_window_card.moc"
