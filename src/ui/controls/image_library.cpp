@@ -1,6 +1,7 @@
 #include "ui/controls/image_library.h"
 
 #include <QFile>
+#include <QHash>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
@@ -45,9 +46,16 @@ QString ImageLibrary::baseName(const QString& name) {
     return name;
 }
 
+// Layouts ask for sizes often; parsing the SVG each time would be wasteful.
+static QHash<QString, QSize>& sizeCache() {
+    static QHash<QString, QSize> cache;
+    return cache;
+}
+
 void ImageLibrary::setSearchRoots(const QStringList& r) {
     roots() = r;
     QPixmapCache::clear();
+    sizeCache().clear();
 }
 
 QStringList ImageLibrary::searchRoots() { return roots(); }
@@ -55,8 +63,12 @@ QStringList ImageLibrary::searchRoots() { return roots(); }
 bool ImageLibrary::exists(const QString& name) { return !resolve(name).isEmpty(); }
 
 QSize ImageLibrary::imageSize(const QString& name) {
+    auto it = sizeCache().constFind(name);
+    if (it != sizeCache().constEnd()) return *it;
     const QString path = resolve(name);
-    return path.isEmpty() ? QSize() : ownSize(path);
+    const QSize s = path.isEmpty() ? QSize() : ownSize(path);
+    sizeCache().insert(name, s);
+    return s;
 }
 
 QPixmap ImageLibrary::pixmap(const QString& name, const QSize& size) {

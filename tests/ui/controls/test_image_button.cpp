@@ -192,18 +192,6 @@ private slots:
         QCOMPARE(hovers, 0);
         QCOMPARE(b.imageName(), QString("play_2"));  // still looks alive
     }
-
-    void paintsWithoutImagesOrWithTitle() {
-        ImageButton none;
-        none.resize(30, 30);
-        none.setText("파일_전체");
-        QVERIFY(!none.grab().isNull());
-        ImageButton titled("play_1");
-        titled.setText("All");
-        titled.resize(titled.sizeHint());
-        QCOMPARE(titled.sizeHint(), QSize(40, 20));
-        QVERIFY(!titled.grab().isNull());
-    }
 };
 
 QTEST_MAIN(TestImageButton)
