@@ -24,6 +24,17 @@
   var errorsSinceLoad = 0;
   var giveUpTimer = null;
   var moves = 0;
+  // The viewer's own marker artwork; a plain dot stands in until (or unless) it loads.
+  var MARKER_URL = '../images/map_marker.svg';
+  var carIcon = L.divIcon({ className: 'car-marker', iconSize: [16, 16] });
+  var markerImage = new Image();
+  markerImage.onload = function () {
+    carIcon = L.icon({ iconUrl: MARKER_URL, iconSize: [24, 36], iconAnchor: [12, 32] });
+    if (marker !== null) {
+      marker.setIcon(carIcon);
+    }
+  };
+  markerImage.src = MARKER_URL;
 
   var PlainGrid = L.GridLayer.extend({
     createTile: function (coords) {
@@ -165,7 +176,7 @@
     var where = L.latLng(lat, lng);
     if (marker === null) {
       marker = L.marker(where, {
-        icon: L.divIcon({ className: 'car-marker', iconSize: [16, 16] }),
+        icon: carIcon,
         interactive: false,
         keyboard: false
       }).addTo(map);
@@ -210,6 +221,7 @@
       zoom: map ? map.getZoom() : null,
       center: null,
       marker: null,
+      markerImage: markerImage.complete && markerImage.naturalWidth > 0,
       route: [],
       routeStyle: null,
       scale: document.querySelector('.leaflet-control-scale') !== null

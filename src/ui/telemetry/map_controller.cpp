@@ -1,6 +1,7 @@
 #include "ui/telemetry/map_controller.h"
 
 #include <QUrl>
+#include <QWebEngineSettings>
 #include <QWebEngineView>
 
 #include <charconv>
@@ -52,6 +53,8 @@ void MapController::load() {
     pending_.removeAll(kInitialize);
     pending_.prepend(kInitialize);
     if (webView_) {
+        // The page lives in the resources but its tiles come from the web.
+        webView_->settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
         webView_->load(QUrl(QString::fromLatin1(kPageUrl)));
     }
 }

@@ -149,6 +149,7 @@ void TestMapController::pageShowsRouteAndFollowsTheCar() {
     QJsonObject state;
     QTRY_VERIFY_WITH_TIMEOUT((state = mapState(view)).value("initialized").toBool(), 10000);
     QVERIFY(state.value("scale").toBool());
+    QVERIFY(state.value("markerImage").toBool());
     const QJsonArray route = state.value("route").toArray();
     QCOMPARE(route.size(), 30);
     // The route travels as text with six decimals, so float noise shows.
