@@ -36,8 +36,16 @@ bool writeClip(const ClipPlan& clip, const fs::path& out, std::string* log) {
     switch (clip.telemetry) {
     case T::None:
         return makeVideo(clip.video, out, log);
-    case T::TailText:
-        return makeVideo(clip.video, out, log) && appendTo(out, tailText(driveSeconds(from, n, 10)), log);
+    case T::TailText: {
+        if (!makeVideo(clip.video, out, log)) return false;
+        // The marker is only looked for in the last 33006 bytes of a file of at
+        // least that size; a tiny test clip gets padding in front of the text.
+        const std::string text = tailText(driveSeconds(from, std::min(n, 65), 10));
+        std::error_code ec;
+        const auto size = fs::file_size(out, ec);
+        const std::size_t pad = size + text.size() < 33006 ? 33006 - size - text.size() : 0;
+        return appendTo(out, std::string(pad, '\0') + text, log);
+    }
     case T::TextRecords: {
         const std::string tag = chunkTag(clip);
         auto chunks = textRecordChunks(driveSeconds(from, n, 10, quantizeText), tag, tag == "03tx");

@@ -1,0 +1,121 @@
+// The subtitle track's cue list and the dashboard's two look-ups.
+#include <gtest/gtest.h>
+
+#include "core/telemetry/subtitle_data.h"
+#include "test_bytes.h"
+
+using namespace tarvik;
+
+namespace {
+std::string cue(int n, const std::string& start, const std::string& body, const char* nl = "\n") {
+    return std::to_string(n) + nl + start + " --> 00:59:59,999" + nl + body + nl + nl;
+}
+}  // namespace
+
+TEST(SubtitleTrack, CueTimesAndRecords) {
+    EXPECT_EQ(SubtitleEntry::entryWithTime("00:00:01,500 --> 00:00:02,000")->cts, 1500u);
+    EXPECT_EQ(SubtitleEntry::entryWithTime("01:02:03,000 --> 01:02:04,000")->cts, 123000u);  // hour ignored
+    EXPECT_EQ(SubtitleEntry::entryWithTime("x 00:00:01,5-->1")->cts, 1500u);
+    EXPECT_FALSE(SubtitleEntry::entryWithTime("00:00:01.500 --> 00:00:02,000"));
+    EXPECT_FALSE(SubtitleEntry::entryWithTime("00:00:01,500 -> 00:00:02,000"));
+    // Cue times are summed in single precision: 16.3 s falls just short of 16300 ms.
+    EXPECT_EQ(SubtitleEntry::entryWithTime("00:00:16,300 --> 00:00:16,400")->cts, 16299u);
+
+    SubtitleEntry e;
+    EXPECT_EQ(e.gx(), -512);
+    EXPECT_EQ(e.lat, 512.0f);
+    EXPECT_EQ(e.speed, 1024u);
+    e.parseSensor({"gsensor", "700", "-900", "5"});
+    EXPECT_EQ(e.gx(), 512);
+    EXPECT_EQ(e.gy(), -512);
+    EXPECT_EQ(e.gz(), 5);
+    e.parseSensor({"gsensor", "1"});  // short: skipped
+    EXPECT_EQ(e.gz(), 5);
+    e.parseSensorI({"gsensori", "2", "256", "-64", "63", "1289"});  // 128 counts per g, rounded half away
+    EXPECT_EQ(e.gx(), -64);
+    EXPECT_EQ(e.gz(), 512);
+    e.parseSensorI({"gsensori", "0", "256", "1", "1", "1"});  // zero divisor: unchanged
+    EXPECT_EQ(e.gx(), -64);
+    e.parseSensorI({"gsensori", "4", "256", "3", "0", "0"});  // 64 counts per g: 6
+    EXPECT_EQ(e.gx(), 6);
+    e.parseGprmc({"GPRMC", "1", "V", "4807.038", "N", "01131.000", "E", "10"});
+    EXPECT_EQ(e.lat, 512.0f);
+    e.parseGprmc({"GNRMC", "1", "A", "4807.038", "N", "01131.000", "W", "10"});
+    EXPECT_NEAR(e.lat, 48.1173f, 1e-4);
+    EXPECT_NEAR(e.lng, -11.516667f, 1e-4);
+    EXPECT_EQ(e.speed, 19u);
+    EXPECT_EQ(SubtitleEntry::degree("4", "N"), 0.0f);
+    EXPECT_EQ(SubtitleEntry::degree("4807.038", ""), 0.0f);
+    EXPECT_NEAR(SubtitleEntry::degree("4807.038", "S"), -48.1173f, 1e-4);
+}
+
+TEST(SubtitleTrack, LoadingKeepsOnlyClosedCues) {
+    std::string lf = cue(1, "00:00:00,000", "gsensor,1,2,3;GPRMC,0,A,3733.67,N,12658.98,E,10,,") +
+                     cue(2, "00:00:00,100", "dummy;gsensori,1,128,9,8,7") + "3\n00:00:00,200 --> x\ngsensor,5,5,5";
+    SubtitleData d;
+    d.loadFromText(lf);
+    ASSERT_EQ(d.entries().size(), 2u);  // the last cue has no blank line after it
+    EXPECT_EQ(d.entries()[0].gy(), 2);
+    EXPECT_NEAR(d.entries()[0].lat, 37.561167f, 1e-5);
+    EXPECT_EQ(d.entries()[1].cts, 100u);
+    EXPECT_EQ(d.entries()[1].gz(), 7);
+    EXPECT_EQ(d.clipDataCount(), 0);
+
+    // CR LF: the empty piece between CR and LF closes each cue before its data.
+    std::string crlf = cue(1, "00:00:00,000", "gsensor,1,2,3", "\r\n") + cue(2, "00:00:00,100", "gsensor,4,5,6", "\r\n");
+    d.loadFromText(crlf);
+    ASSERT_EQ(d.entries().size(), 2u);
+    EXPECT_EQ(d.entries()[1].cts, 100u);
+    EXPECT_EQ(d.entries()[0].gx(), -512);
+    EXPECT_EQ(d.entries()[1].lat, 512.0f);
+
+    d.loadFromText(lf + "\xff\xfe");
+    EXPECT_TRUE(d.entries().empty());
+    d.loadFromPath("/nonexistent/clip.srt");
+    EXPECT_TRUE(d.entries().empty());
+    tarvik::test::TempDir dir;
+    auto loaded = SubtitleData::fromPath(dir.write("a.srt", lf).string());
+    EXPECT_EQ(loaded->entries().size(), 2u);
+}
+
+TEST(SubtitleTrack, SensorLookUpIsExact) {
+    SubtitleData d;
+    d.loadFromText(cue(1, "00:00:01,500", "gsensor,1,2,3") + cue(2, "00:00:01,500", "gsensor,9,9,9") +
+                   cue(3, "00:00:01,550", "gsensor,4,5,6"));
+    int x = 77, y = 77, z = 77;
+    EXPECT_FALSE(d.getSensorAt(14, x, y, z));
+    EXPECT_EQ(x, 77);  // untouched on a miss
+    EXPECT_TRUE(d.getSensorAt(15, x, y, z));
+    EXPECT_EQ(x, 1);  // the first of two equal times
+    EXPECT_EQ(z, 3);
+    EXPECT_FALSE(d.getSensorAt(16, x, y, z));
+}
+
+TEST(SubtitleTrack, PositionLookUp) {
+    const std::string fix1 = "GPRMC,0,A,3730.00,N,12700.00,E,";  // 37.5, 127.0
+    const std::string fix2 = "GPRMC,0,A,3736.00,N,12706.00,E,";  // 37.6, 127.1
+    SubtitleData d;
+    float lat = 0, lng = 0;
+    unsigned speed = 0;
+    EXPECT_EQ(d.getGpsAt(0, lat, lng, speed), 2);  // no entries
+
+    d.loadFromText(cue(1, "00:00:01,000", fix1 + "10.8") + cue(2, "00:00:01,500", "gsensor,1,1,1"));
+    EXPECT_EQ(d.getGpsAt(10, lat, lng, speed), 0);
+    EXPECT_NEAR(lat, 37.5f, 1e-5);
+    EXPECT_EQ(speed, 20u);
+    lat = 0;
+    EXPECT_EQ(d.getGpsAt(14, lat, lng, speed), 1);  // 400 ms away: the cue's own values
+    EXPECT_NEAR(lng, 127.0f, 1e-5);
+    EXPECT_EQ(d.getGpsAt(20, lat, lng, speed), 2);  // exactly 1000 ms away never counts
+    EXPECT_EQ(d.getGpsAt(25, lat, lng, speed), 2);
+
+    // Two positioned cues: the nearer one displaces the other, which is then interpolated towards.
+    d.loadFromText(cue(1, "00:00:01,000", fix1 + "0") + cue(2, "00:00:02,000", fix2 + "5.4"));
+    EXPECT_EQ(d.getGpsAt(16, lat, lng, speed), 1);
+    EXPECT_NEAR(lat, 37.56f, 1e-4);
+    EXPECT_NEAR(lng, 127.06f, 1e-4);
+    EXPECT_EQ(speed, 6u);  // 0 + (10 - 0) * 0.6
+    // Midway, both are 500 ms away: the first stays alone, so no interpolation.
+    EXPECT_EQ(d.getGpsAt(15, lat, lng, speed), 1);
+    EXPECT_NEAR(lat, 37.5f, 1e-5);
+}
