@@ -142,8 +142,7 @@ void TestMapController::pageShowsRouteAndFollowsTheCar() {
     controller.moveToLatLng(fixes[2].lat, fixes[2].lng);
     controller.load();
     QVERIFY(ready.wait(20000) || ready.count() > 0);
-    QCOMPARE(ready.front().front().toBool(), true);
-    QVERIFY(controller.isPageReady());
+    QVERIFY(ready.front().front().toBool() && controller.isPageReady());
     QVERIFY(controller.pendingScripts().isEmpty());
 
     QJsonObject state;
@@ -156,11 +155,9 @@ void TestMapController::pageShowsRouteAndFollowsTheCar() {
     QVERIFY(qAbs(route.first().toArray().at(0).toDouble() - 37.566) < 1e-5);
     QVERIFY(qAbs(route.first().toArray().at(1).toDouble() - 126.978) < 1e-5);
     QVERIFY(qAbs(route.last().toArray().at(0).toDouble() - 37.5718) < 1e-5);
-    QCOMPARE(state.value("routeStyle").toObject().value("color").toString(), QString("red"));
-    QCOMPARE(state.value("routeStyle").toObject().value("weight").toInt(), 4);
-    QCOMPARE(state.value("routeStyle").toObject().value("opacity").toDouble(), 0.5);
-    QJsonObject marker = state.value("marker").toObject();
-    QVERIFY(qAbs(marker.value("lat").toDouble() - 37.566) < 1e-5);
+    const QJsonObject style = state.value("routeStyle").toObject();
+    QCOMPARE(style, QJsonObject({{"color", "red"}, {"weight", 4}, {"opacity", 0.5}}));
+    QVERIFY(qAbs(state.value("marker").toObject().value("lat").toDouble() - 37.566) < 1e-5);
 
     // The car moves: the marker and the centre follow.
     const Fix later = fixes.back();
@@ -187,12 +184,11 @@ void TestMapController::pageShowsRouteAndFollowsTheCar() {
     qInfo("map screenshot: %s", qPrintable(path));
     // The route is drawn in translucent red over a light background.
     int reddish = 0;
-    for (int y = 0; y < shot.height(); ++y) {
+    for (int y = 0; y < shot.height(); ++y)
         for (int x = 0; x < shot.width(); ++x) {
             const QColor c = shot.pixelColor(x, y);
-            reddish += c.red() > 200 && c.green() < 170 && c.blue() < 170 ? 1 : 0;
+            reddish += c.red() > 200 && c.green() < 170 && c.blue() < 170;
         }
-    }
     QVERIFY2(reddish > 200, qPrintable(QString::number(reddish)));
 }
 
