@@ -1,12 +1,104 @@
+// tarvik telemetry CLIP [--format csv|gpx|geojson|kml] [--krt]
+// Reads a clip's telemetry the way the player does and prints it.
+#include <unistd.h>
+
+#include <cctype>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <string>
 
 #include "cli/commands.h"
+#include "core/telemetry/orvo_clip_data.h"
+#include "core/telemetry/route_exporter.h"
+#include "core/util/process_runner.h"
 
 namespace tarvik::cli {
 
-int telemetryCommand(int, char**) {
-    std::fprintf(stderr, "tarvik telemetry: not available yet\n");
-    return 1;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string lower(std::string s) {
+    for (char& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return s;
+}
+
+std::string ffmpeg() {
+    const char* env = std::getenv("TARVIK_FFMPEG");
+    return env && *env ? env : "ffmpeg";
+}
+
+// The KRT family's clip names; their telemetry needs that family's reader.
+bool isKrtClipName(const std::string& name) {
+    if (name.size() < 4 || name.compare(name.size() - 4, 4, ".avi") != 0) return false;
+    for (const char* p : {"Rec_", "Event_", "Park_", "Manual_"})
+        if (name.rfind(p, 0) == 0) return true;
+    return false;
+}
+
+// An MP4 keeps its telemetry in a subtitle track: extract it next to nothing
+// of the user's, into a folder of our own, and read it from there.
+bool loadFromSubtitleTrack(const fs::path& clip, OrvoClipData& data) {
+    char templ[] = "/tmp/tarvik-telemetry-XXXXXX";
+    if (!mkdtemp(templ)) return false;
+    const fs::path dir = templ;
+    const fs::path srt = dir / (clip.stem().string() + ".srt");
+    ProcessResult r = ProcessRunner::run(ffmpeg(), {"-i", clip.string(), "-vn", "-an", "-c:s", "text", srt.string()},
+                                         std::chrono::minutes(2));
+    if (!r.started) std::fprintf(stderr, "tarvik telemetry: could not run %s\n", ffmpeg().c_str());
+    data.loadVideoFileCilpDataFromFilePath(srt.string());
+    std::error_code ec;
+    fs::remove_all(dir, ec);
+    return r.started;
+}
+
+int usage() {
+    std::fprintf(stderr, "usage: tarvik telemetry CLIP [--format csv|gpx|geojson|kml] [--krt]\n");
+    return 2;
+}
+
+}  // namespace
+
+int telemetryCommand(int argc, char** argv) {
+    std::string clipArg, format = "csv";
+    bool krt = false;
+    for (int i = 1; i < argc; ++i) {
+        if (!std::strcmp(argv[i], "--format") && i + 1 < argc) format = argv[++i];
+        else if (!std::strncmp(argv[i], "--format=", 9)) format = argv[i] + 9;
+        else if (!std::strcmp(argv[i], "--krt")) krt = true;
+        else if (argv[i][0] == '-' || !clipArg.empty()) return usage();
+        else clipArg = argv[i];
+    }
+    if (clipArg.empty() || (format != "csv" && format != "gpx" && format != "geojson" && format != "kml"))
+        return usage();
+    const fs::path clip = clipArg;
+    std::error_code ec;
+    if (!fs::is_regular_file(clip, ec)) {
+        std::fprintf(stderr, "tarvik telemetry: %s: no such clip\n", clipArg.c_str());
+        return 1;
+    }
+
+    auto data = std::make_unique<OrvoClipData>();
+    const std::string name = clip.filename().string();
+    if (lower(clip.extension().string()) == ".mp4") {
+        if (!loadFromSubtitleTrack(clip, *data)) return 1;
+    } else if (krt || isKrtClipName(name)) {
+        data->loadVideoFileCilpDataFromFilePath_KRT(clip.string());
+    } else {
+        data->loadVideoFileCilpDataFromFilePath(clip.string());
+    }
+
+    std::string out;
+    if (format == "csv") out = RouteExporter::csv(*data);
+    else if (format == "gpx") out = RouteExporter::gpx(*data, name);
+    else if (format == "kml") out = RouteExporter::kml(*data, name);
+    else out = RouteExporter::geoJson(*data, name);
+    std::fwrite(out.data(), 1, out.size(), stdout);
+    return 0;
 }
 
 }  // namespace tarvik::cli

@@ -1,0 +1,33 @@
+#pragma once
+// A clip's telemetry as text for other tools: the samples as CSV, the route as
+// GPX 1.1, KML 2.2 or GeoJSON (RFC 7946, longitude first). A clip without a
+// fix gives an empty route, never an error.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvik {
+
+class OrvoClipData;
+
+struct RoutePoint {
+    double seconds = 0;  // from the clip's start
+    float lat = 0, lng = 0;
+    unsigned speed = 0;  // km/h
+};
+
+class RouteExporter {
+public:
+    // Samples with a fix, a repeated position (ten samples a second share one)
+    // kept only once.
+    static std::vector<RoutePoint> route(const OrvoClipData& data);
+
+    // "t,gx,gy,gz,lat,lng,speed": seconds, G in g, degrees, km/h; one line per sample.
+    static std::string csv(const OrvoClipData& data);
+    static std::string gpx(const OrvoClipData& data, std::string_view name);
+    static std::string kml(const OrvoClipData& data, std::string_view name);
+    static std::string geoJson(const OrvoClipData& data, std::string_view name);
+};
+
+}  // namespace tarvik
