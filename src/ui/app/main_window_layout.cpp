@@ -18,7 +18,7 @@ namespace tarvik {
 
 namespace {
 
-constexpr int kClipPanelWidth = 300;
+constexpr int kClipPanelWidth = 340;
 
 ImageButton* button(QWidget* parent, const char* image, const char* name, QSize size = {}) {
     auto* b = new ImageButton(QString::fromLatin1(image), parent);
@@ -66,7 +66,7 @@ void buildTitleStrip(MainWindowViews& v, QWidget* strip) {
     v.quitMenuItem = v.appMenu->addAction("Quit");
     v.quitMenuItem->setShortcut(QKeySequence::Quit);
     v.quitMenuItem->setShortcutContext(Qt::ApplicationShortcut);
-    h->addWidget(v.mainMenu);
+    h->addWidget(v.mainMenu, 0, Qt::AlignVCenter);
     h->addStretch(1);
     v.modelTextField = text(strip, "modelTextField");
     v.modelTextField->setStyleSheet("color: #f2a33a; font-weight: 600;");
@@ -101,9 +101,12 @@ QWidget* buildClipPanel(MainWindowViews& v, QWidget* parent) {
     for (auto* b : {v.fileListAllButton_OEM, v.fileListAlwaysButton_OEM, v.fileListMotionButton_OEM,
                     v.fileListEventButton_OEM, v.fileListManualButton_OEM}) {
         b->setCheckable(false);
-        filters->addWidget(b);
+        b->setFixedHeight(26);
+        b->setMinimumWidth(60);
+        b->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        b->setStyleSheet("font-size: 11px;");
+        filters->addWidget(b, 1);
     }
-    filters->addStretch(1);
     col->addLayout(filters);
 
     v.selectedDirTextField_OEM = text(p, "selectedDirTextField_OEM");

@@ -193,10 +193,14 @@ private slots:
         QVERIFY(!menus.languageEnglishMenuItem->isChecked());
         QTRY_VERIFY(menus.languageMenu->title() != english);
         QVERIFY(c.views().fileListAllButton_OEM->text() != QString("파일_전체"));
-        // Portuguese is reached only through a stored value and marks no item.
+    }
+
+    void storedPortugueseMarksNoLanguageItem() {
+        // Portuguese is reached only through a stored value and has no item.
         QSettingsStore::shared().setString("OrvoViewerLanguage", "pt");
-        menus.markCurrentLanguage();
-        for (QAction* a : menus.languageMenu->actions()) QVERIFY(!a->isChecked());
+        MainWindowController c;
+        c.preferencesMenu().buildMenus();
+        for (QAction* a : c.preferencesMenu().languageMenu->actions()) QVERIFY(!a->isChecked());
     }
 };
 
