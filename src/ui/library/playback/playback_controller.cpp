@@ -1,0 +1,414 @@
+#include "ui/library/playback/playback_controller.h"
+
+#include <QFile>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QMessageBox>
+#include <QScrollArea>
+#include <QSlider>
+#include <QStandardPaths>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+#include "core/library/clip_catalogue.h"
+#include "core/library/conversion/clip_converter.h"
+#include "core/telemetry/orvo_clip_data.h"
+#include "core/telemetry/subtitle_data.h"
+#include "ui/app/main_window.h"
+#include "ui/app/main_window_views.h"
+#include "ui/controls/image_button.h"
+#include "ui/l10n/orvo_languages.h"
+#include "ui/library/playback/clip_navigation.h"
+#include "ui/library/playback/clip_saver.h"
+#include "ui/library/playback/dashboard_updater.h"
+#include "ui/library/playback/dashboard_widgets.h"
+#include "ui/library/playback/fullscreen_control_bar.h"
+#include "ui/library/playback/fullscreen_controller.h"
+#include "ui/library/playback/play_animation.h"
+#include "ui/library/playback/seek_slider_controller.h"
+#include "ui/library/playback/volume_controller.h"
+#include "ui/library/playback/zoom_controller.h"
+#include "ui/library/player/orvo_av_view.h"
+#include "ui/telemetry/gravity_graph_view.h"
+#include "ui/telemetry/map_controller.h"
+
+namespace tarvik {
+
+class PlaybackController::BigPlayerClock : public PlayClock {
+public:
+    explicit BigPlayerClock(const OrvoAVView* view) : view_(view) {}
+    double currentTime() const override { return view_->currentTime(); }
+    double duration() const override { return view_->duration(); }
+
+private:
+    const OrvoAVView* view_;
+};
+
+namespace {
+
+QString fromBytes(const std::string& path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
+
+OrvoAVView* playerIn(QWidget* host, const char* name) {
+    auto* layout = new QVBoxLayout(host);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* view = new OrvoAVView(host);
+    view->setObjectName(QString::fromLatin1(name));
+    layout->addWidget(view);
+    return view;
+}
+
+std::string withSrtExtension(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    const std::size_t dot = path.rfind('.');
+    const bool hasExtension = dot != std::string::npos && (slash == std::string::npos || dot > slash);
+    return (hasExtension ? path.substr(0, dot) : path) + ".srt";
+}
+
+bool isKrtClipName(const std::string& path) {
+    const std::string name(ClipCatalogue::fileName(path));
+    if (name.size() < 4 || name.compare(name.size() - 4, 4, ".avi") != 0) return false;
+    for (const char* prefix : {"Rec_", "Event_", "Park_", "Manual_"})
+        if (name.rfind(prefix, 0) == 0) return true;
+    return false;
+}
+
+}  // namespace
+
+PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalogue& catalogue, QObject* parent)
+    : QObject(parent), v_(views), catalogue_(catalogue), clipData_(std::make_unique<OrvoClipData>()) {
+    bigMovieView_ = playerIn(v_.bigMovieHost, "bigMoviePlayer");
+    smallMovieView_ = playerIn(v_.smallMovieHost, "smallMoviePlayer");
+    bigMovieView_->setDelegate(this);
+    smallMovieView_->setDelegate(this);
+    bigGuard_ = bigMovieView_;
+    smallGuard_ = smallMovieView_;
+    clock_ = std::make_unique<BigPlayerClock>(bigMovieView_);
+
+    widgets_ = std::make_unique<DashboardWidgets>(DashboardWidgets::install(v_.gravityGraphHost, v_.speedMeterHost));
+    widgets_->installMap(v_.mapCoverView, this);
+    seek_ = new SeekSliderController(v_.seekTimeSliderView, this);
+    volume_ = new VolumeController(v_.volumeSliderView, v_.muteButton, bigMovieView_, this);
+
+    DashboardTargets targets;
+    targets.gxText = v_.gxTextField;
+    targets.gyText = v_.gyTextField;
+    targets.gzText = v_.gzTextField;
+    targets.latText = v_.latTextField;
+    targets.lngText = v_.lngTextField;
+    targets.playTimeText = v_.playTimeTextField;
+    targets.speedMeter = widgets_->speedMeterView;
+    targets.mapCover = v_.mapCoverView;
+    targets.mapWebView = widgets_->mapWebView;
+    targets.map = widgets_->mapController;
+    targets.seekSlider = seek_;
+    dashboard_ = new DashboardUpdater(targets, *clock_, this);
+    dashboard_->setClipData(clipData_.get());
+    dashboard_->showMapCover();
+
+    // The main window has no pan button of its own; panning stays a state here.
+    zoom_ = new ZoomController(v_.bigMovieViewScrollView, v_.bigMovieHost, nullptr, this);
+    fullScreen_ = new FullScreenController(bigMovieView_, smallMovieView_, v_.mainWindow,
+                                           *this, *volume_, this);
+    fullScreen_->setMapWebView(targets.mapWebView);
+    zoom_->setFullScreenQuery([this] { return fullScreen_->isFullScreenMode(); });
+    zoom_->changeVideoScale(zoom_->videoScale());
+    animation_ = new PlayAnimation(v_.shockCarImageView, v_.earthImageView, this);
+
+    ClipSaver::Context saving;
+    saving.window = v_.mainWindow;
+    saving.catalogue = &catalogue_;
+    saving.selectedRow = [this] { return selectedRow(); };
+    saving.currentVideoUrl = [this] { return currentVideoUrl_; };
+    saving.bigMovieView = bigMovieView_;
+    saving.transport = this;
+    saver_ = new ClipSaver(std::move(saving), this);
+
+    alert_ = [this](const QString& message, const QString& informative) {
+        QMessageBox box(QMessageBox::Warning, message, message, QMessageBox::Ok,
+                        v_.mainWindow);
+        box.setInformativeText(informative);
+        box.exec();
+    };
+    convert_ = [](const std::string& clip) {
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        return ClipConverter(QFile::encodeName(documents).toStdString()).checkAndConvertVideo(clip);
+    };
+    connectButtons();
+}
+
+PlaybackController::~PlaybackController() {
+    // The players go with their hosts; they must not call back into a half-destroyed controller.
+    if (bigGuard_) bigGuard_->setDelegate(nullptr);
+    if (smallGuard_) smallGuard_->setDelegate(nullptr);
+}
+
+void PlaybackController::connectButtons() {
+    auto on = [this](ImageButton* button, auto action) {
+        if (button) connect(button, &QAbstractButton::clicked, this, [this, button, action] { (this->*action)(button); });
+    };
+    on(v_.playPauseButton, &PlaybackController::playPauseButtonTouched);
+    on(v_.stopButton, &PlaybackController::stopButtonTouched);
+    on(v_.playPrevFileButton, &PlaybackController::playPrevFileButtonTouched);
+    on(v_.playNextFileButton, &PlaybackController::playNextFileButtonTouched);
+    on(v_.rewindButton, &PlaybackController::rewindButtonTouched);
+    on(v_.fastForwardButton, &PlaybackController::fastForwardButtonTouched);
+    on(v_.videoRotateButton, &PlaybackController::videoRotateButtonTouched);
+    on(v_.switchVideoButton, &PlaybackController::toggleVideoSwithButtonTouched);
+    on(v_.fullscreenButton, &PlaybackController::fullscreenButtonTouched);
+    connect(v_.videoScaleUpButton, &QAbstractButton::clicked, zoom_, &ZoomController::videoScaleUpButtonTouched);
+    connect(v_.videoScaleDownButton, &QAbstractButton::clicked, zoom_, &ZoomController::videoScaleDownButtonTouched);
+    connect(v_.resetVideoScaleButton, &QAbstractButton::clicked, zoom_,
+            &ZoomController::resetVideoScaleButtonTouched);
+    connect(v_.snapshotButton, &QAbstractButton::clicked, saver_, &ClipSaver::snapshotButtonTouched);
+    connect(v_.printButton, &QAbstractButton::clicked, saver_, &ClipSaver::printButtonTouched);
+    connect(v_.saveFileButton, &QAbstractButton::clicked, saver_, &ClipSaver::saveFileButtonTouched);
+    connect(seek_, &SeekSliderController::touchedUp, this, &PlaybackController::seekTimeSliderTouchedUp);
+
+    FullscreenControlBar* bar = fullScreen_->controlBar();
+    on(bar->playPauseButton(), &PlaybackController::playPauseButtonTouched);
+    on(bar->rewindButton(), &PlaybackController::rewindButtonTouched);
+    on(bar->fastForwardButton(), &PlaybackController::fastForwardButtonTouched);
+    connect(bar->exitButton(), &QAbstractButton::clicked, this, &PlaybackController::hideFullScreenMovie);
+}
+
+bool PlaybackController::isVideoSwitched() const { return catalogue_.isVideoSwitched(); }
+
+void PlaybackController::playVideoWithIdx(int row) {
+    stopVideo();
+    const auto& list = catalogue_.filteredVideoFileList();
+    if (row < 0 || row >= static_cast<int>(list.size())) return;
+    prepareVideoToPlay(list[static_cast<std::size_t>(row)], 0.0);
+}
+
+void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
+    dashboard_->resetVideoInformation();
+    if (!fullScreen_->isFullScreenMode()) zoom_->resetForNewClip();
+
+    bigMovieView_->reset();
+    smallMovieView_->reset();
+    bigVideoFilePath_.clear();
+    smallVideoFilePath_.clear();
+    subtitleData_.reset();
+    dashboard_->setSubtitleData(nullptr);
+    dashboard_->resetLastPosition();
+
+    const auto files = convert_ ? convert_(url) : std::nullopt;
+    if (!files || files->empty()) {
+        currentVideoUrl_.clear();
+        // The players were reset: their covers come back before the alert.
+        emit movieViewCoversNeedUpdate();
+        showUnsupportedFileAlert();
+        return;
+    }
+    currentVideoUrl_ = url;
+    emit enableVideoControlsRequested(true);
+
+    bigVideoFilePath_ = files->front();
+    bigMovieView_->setFileName(fromBytes(bigVideoFilePath_));
+    if (files->size() >= 2) {
+        smallVideoFilePath_ = (*files)[1];
+        smallMovieView_->setFileName(fromBytes(smallVideoFilePath_));
+        smallMovieView_->setVolume(0.0f);
+        v_.switchVideoButton->setEnabled(true);
+    } else {
+        v_.switchVideoButton->setEnabled(false);
+    }
+    if (isMp4ClipPath(url)) catalogue_.setVideoSwitched(false);
+
+    loadTelemetry(url);
+    widgets_->gravityGraphView->setClipData(*clipData_);
+    if (widgets_->mapController) widgets_->mapController->removeMapLine();
+    if (clipData_->gpsDataCount() != 0) {
+        v_.gpsImageView->show();
+        if (widgets_->mapController) widgets_->mapController->addRoute(*clipData_);
+    } else {
+        v_.gpsImageView->hide();
+    }
+    emit movieViewCoversNeedUpdate();
+}
+
+void PlaybackController::loadTelemetry(const std::string& url) {
+    if (isMp4ClipPath(url)) {
+        // The converter wrote the clip's subtitle track beside the first playable file.
+        const std::string srt = withSrtExtension(bigVideoFilePath_);
+        clipData_->loadVideoFileCilpDataFromFilePath(srt);
+        subtitleData_ = SubtitleData::fromPath(srt);
+        dashboard_->setSubtitleData(subtitleData_.get());
+    } else if (isKrtClipName(url)) {
+        clipData_->loadVideoFileCilpDataFromFilePath_KRT(url);
+    } else {
+        clipData_->loadVideoFileCilpDataFromFilePath(url);
+    }
+}
+
+void PlaybackController::setPlayPauseImages(const char* image) {
+    v_.playPauseButton->setImage(image);
+    fullScreen_->controlBar()->playPauseButton()->setImage(image);
+}
+
+void PlaybackController::playVideo() {
+    if (!bigMovieView_->hasMovie()) return;
+    isVideoPaused_ = false;
+    setPlayPauseImages("pause1");
+    dashboard_->startVideoPlayTimer();
+    animation_->startPlayAnimation();
+    bigMovieView_->play();
+    smallMovieView_->play();
+}
+
+void PlaybackController::pauseVideo() {
+    if (isVideoPaused_) return;
+    isVideoPaused_ = true;
+    setPlayPauseImages("play_1");
+    bigMovieView_->pause();
+    smallMovieView_->pause();
+    dashboard_->stopVideoPlayTimer();
+    animation_->stopPlayAnimation();
+}
+
+void PlaybackController::stopVideo() {
+    pauseVideo();
+    isVideoPaused_ = true;
+    bigMovieView_->setCurrentTime(0.0);
+    smallMovieView_->setCurrentTime(0.0);
+    dashboard_->stopVideoPlayTimer();
+    seek_->setCurrentSliderValue(0.0);
+    dashboard_->resetUpdateTimes();
+    dashboard_->resetLastPosition();
+    animation_->stopPlayAnimation();
+    dashboard_->showMapCover();
+}
+
+void PlaybackController::setCurrentVideoTime(double seconds) {
+    bigMovieView_->setCurrentTime(seconds);
+    smallMovieView_->setCurrentTime(seconds);
+}
+
+void PlaybackController::onMovieReady() {
+    playVideo();
+    animation_->startPlayAnimation();
+}
+
+void PlaybackController::movieDidEnd() {
+    dashboard_->stopVideoPlayTimer();
+    playNextFileButtonTouched(nullptr);
+    dashboard_->showMapCover();
+}
+
+void PlaybackController::showUnsupportedFileAlert() {
+    if (alert_) alert_(tr_k("메모리카드 오류"), tr_k("지원하지 않는 형식으로 인코딩된 동영상입니다."));
+}
+
+void PlaybackController::playPauseButtonTouched(QObject*) {
+    if (isVideoPaused_)
+        playVideo();
+    else
+        pauseVideo();
+}
+
+void PlaybackController::stopButtonTouched(QObject*) { stopVideo(); }
+
+int PlaybackController::selectedRow() const {
+    const QItemSelectionModel* selection = v_.fileListTableView->selectionModel();
+    if (!selection) return -1;
+    const QModelIndexList rows = selection->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void PlaybackController::selectRowAndPlay(int row) {
+    QTableView* table = v_.fileListTableView;
+    if (table->model() && table->selectionModel()) {
+        const QModelIndex index = table->model()->index(row, 0);
+        table->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        table->scrollTo(index);
+    }
+    playVideoWithIdx(row);
+}
+
+void PlaybackController::playNextFileButtonTouched(QObject*) {
+    const int n = nextClipRow(catalogue_.filteredVideoFileList(), selectedRow());
+    if (n >= 0 && n < catalogue_.rowCount()) selectRowAndPlay(n);
+}
+
+void PlaybackController::playPrevFileButtonTouched(QObject*) {
+    const int p = previousClipRow(catalogue_.filteredVideoFileList(), selectedRow());
+    if (p >= 0) selectRowAndPlay(p);
+}
+
+void PlaybackController::rewindButtonTouched(QObject*) {
+    pauseVideo();
+    bigMovieView_->stepBackward();
+    smallMovieView_->stepBackward();
+    dashboard_->playVideoTimerCallback();
+}
+
+void PlaybackController::fastForwardButtonTouched(QObject*) {
+    pauseVideo();
+    bigMovieView_->stepForward();
+    smallMovieView_->stepForward();
+    dashboard_->playVideoTimerCallback();
+}
+
+void PlaybackController::videoRotateButtonTouched(QObject*) {
+    const bool upsideDown = !bigMovieView_->upsideDown();
+    bigMovieView_->setUpsideDown(upsideDown);
+    smallMovieView_->setUpsideDown(upsideDown);
+}
+
+void PlaybackController::toggleVideoSwithButtonTouched(QObject*) {
+    pauseVideo();
+    catalogue_.setVideoSwitched(!catalogue_.isVideoSwitched());
+    bigMovieView_->swapPlayerItemWith(smallMovieView_);
+    // The sound goes with the large picture; the small player stays silent.
+    bigMovieView_->setVolume(volume_->volume());
+    smallMovieView_->setVolume(0.0f);
+    playVideo();
+}
+
+void PlaybackController::fullscreenButtonTouched(QObject* sender) { fullScreen_->fullscreenButtonTouched(sender); }
+
+void PlaybackController::hideFullScreenMovie() { fullScreen_->hideFullScreenMovie(); }
+
+void PlaybackController::volumeUp() { volume_->volumeUp(); }
+
+void PlaybackController::volumeDown() { volume_->volumeDown(); }
+
+void PlaybackController::seekTimeSliderTouchedUp(double seconds) {
+    dashboard_->resetUpdateTimes();
+    bigMovieView_->setCurrentTime(seconds);
+    smallMovieView_->setCurrentTime(seconds);
+}
+
+void PlaybackController::orvoAVViewDidUpdateStatus(OrvoAVView* view, OrvoAVViewStatus status) {
+    // A report from an earlier load of the same view no longer counts.
+    if (view->status() != status) return;
+    if (view == bigMovieView_ && status == OrvoAVViewStatusPrepared) {
+        seek_->setMaxSliderValue(bigMovieView_->duration());
+        bigMovieView_->setVolume(volume_->volume());
+        if (volume_->isMuted()) volume_->slider()->setEnabled(false);
+        if (!smallMovieView_->hasMovie() || smallMovieView_->status() == OrvoAVViewStatusPrepared) onMovieReady();
+    } else if (view == smallMovieView_ && status == OrvoAVViewStatusPrepared) {
+        smallMovieView_->setVolume(0.0f);
+        if (bigMovieView_->status() == OrvoAVViewStatusPrepared) onMovieReady();
+    } else if (view == smallMovieView_ && status == OrvoAVViewStatusError && isVideoPaused_ &&
+               bigMovieView_->status() == OrvoAVViewStatusPrepared) {
+        // A broken rear file must not hold the front one back: had it failed
+        // before the front was ready, the front would have started alone.
+        onMovieReady();
+    }
+}
+
+void PlaybackController::orvoAVViewDidUpdateTime(OrvoAVView* view, double) {
+    // While paused the timer is off, but a frame step or seek still moves the
+    // time, and it arrives only now: the dashboard shows the new frame's data.
+    if (view == bigMovieView_ && isVideoPaused_) dashboard_->playVideoTimerCallback();
+}
+
+void PlaybackController::orvoAVViewDidPlayToEndTime(OrvoAVView* view) {
+    if (view == bigMovieView_) movieDidEnd();
+}
+
+void PlaybackController::orvoAVViewDidRequestFullscreen(OrvoAVView* view) { fullscreenButtonTouched(view); }
+
+}  // namespace tarvik

@@ -1,0 +1,142 @@
+#pragma once
+// Playback of the main window: loads a clip into the large and small player
+// (front and rear), starts them together once both are ready, and carries
+// out the tool-bar commands. The dashboard, zoom, full screen, volume, seek
+// slider, play animation and saving each live in a helper of their own; this
+// class loads clips and ties the helpers to the players and buttons.
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ui/library/playback/playback_transport.h"
+#include "ui/library/player/orvo_av_view.h"
+
+namespace tarvik {
+
+struct MainWindowViews;
+class ClipCatalogue;
+class ClipSaver;
+class DashboardUpdater;
+class FullScreenController;
+class OrvoAVView;
+class OrvoClipData;
+class PlayAnimation;
+class SeekSliderController;
+class SubtitleData;
+class VolumeController;
+class ZoomController;
+struct DashboardWidgets;
+
+class PlaybackController : public QObject, public OrvoAVViewDelegate, public PlaybackTransport {
+    Q_OBJECT
+public:
+    // Shows the unsupported-file alert: message and informative text, already localised.
+    using AlertPresenter = std::function<void(const QString& message, const QString& informative)>;
+    // The playable files of a clip, large view first; empty or none when unsupported.
+    using VideoConverter = std::function<std::optional<std::vector<std::string>>(const std::string& clip)>;
+
+    PlaybackController(const MainWindowViews& views, ClipCatalogue& catalogue, QObject* parent = nullptr);
+    ~PlaybackController() override;
+
+    void setAlertPresenter(AlertPresenter presenter) { alert_ = std::move(presenter); }
+    void setVideoConverter(VideoConverter converter) { convert_ = std::move(converter); }
+
+    OrvoAVView* bigMovieView() const { return bigMovieView_; }
+    OrvoAVView* smallMovieView() const { return smallMovieView_; }
+    DashboardUpdater& dashboard() { return *dashboard_; }
+    const DashboardWidgets& dashboardWidgets() const { return *widgets_; }
+    ZoomController& zoom() { return *zoom_; }
+    FullScreenController& fullScreen() { return *fullScreen_; }
+    VolumeController& volume() { return *volume_; }
+    SeekSliderController& seekSlider() { return *seek_; }
+    PlayAnimation& playAnimation() { return *animation_; }
+    ClipSaver& saver() { return *saver_; }
+    const OrvoClipData& clipData() const { return *clipData_; }
+    const SubtitleData* subtitleData() const { return subtitleData_.get(); }
+
+    const std::string& currentVideoUrl() const { return currentVideoUrl_; }
+    const std::string& bigVideoFilePath() const { return bigVideoFilePath_; }
+    const std::string& smallVideoFilePath() const { return smallVideoFilePath_; }
+    bool isVideoPaused() const override { return isVideoPaused_; }
+    bool isVideoSwitched() const;
+
+    // Stops what plays and loads row `row` of the filtered list from its start.
+    void playVideoWithIdx(int row);
+    // The seek time is accepted but a clip always starts from its beginning.
+    void prepareVideoToPlay(const std::string& url, double seekTime = 0.0);
+    void playVideo() override;
+    void pauseVideo() override;
+    void stopVideo();
+    void setCurrentVideoTime(double seconds);
+    void onMovieReady();
+    void movieDidEnd();
+    void showUnsupportedFileAlert();
+
+    // Tool-bar and key commands; the sender is the button or the window.
+    void playPauseButtonTouched(QObject* sender = nullptr);
+    void stopButtonTouched(QObject* sender = nullptr);
+    void playPrevFileButtonTouched(QObject* sender = nullptr);
+    void playNextFileButtonTouched(QObject* sender = nullptr);
+    void rewindButtonTouched(QObject* sender = nullptr);
+    void fastForwardButtonTouched(QObject* sender = nullptr);
+    void videoRotateButtonTouched(QObject* sender = nullptr);
+    void toggleVideoSwithButtonTouched(QObject* sender = nullptr);
+    void fullscreenButtonTouched(QObject* sender = nullptr);
+    void hideFullScreenMovie();
+    void volumeUp();
+    void volumeDown();
+    void seekTimeSliderTouchedUp(double seconds);
+
+    // OrvoAVViewDelegate
+    void orvoAVViewDidUpdateStatus(OrvoAVView* view, OrvoAVViewStatus status) override;
+    void orvoAVViewDidUpdateTime(OrvoAVView* view, double seconds) override;
+    void orvoAVViewDidPlayToEndTime(OrvoAVView* view) override;
+    void orvoAVViewDidRequestFullscreen(OrvoAVView* view) override;
+
+signals:
+    // The main window enables or disables its playback controls.
+    void enableVideoControlsRequested(bool enabled);
+    // The players' covers should follow whether each player has a movie.
+    void movieViewCoversNeedUpdate();
+
+private:
+    class BigPlayerClock;
+
+    void connectButtons();
+    void loadTelemetry(const std::string& url);
+    void setPlayPauseImages(const char* image);
+    int selectedRow() const;
+    void selectRowAndPlay(int row);
+
+    const MainWindowViews& v_;
+    ClipCatalogue& catalogue_;
+    OrvoAVView* bigMovieView_;
+    OrvoAVView* smallMovieView_;
+    // The window may go first, taking the players with it.
+    QPointer<OrvoAVView> bigGuard_;
+    QPointer<OrvoAVView> smallGuard_;
+    std::unique_ptr<OrvoClipData> clipData_;
+    std::unique_ptr<SubtitleData> subtitleData_;
+    std::unique_ptr<BigPlayerClock> clock_;
+    std::unique_ptr<DashboardWidgets> widgets_;
+    SeekSliderController* seek_;
+    VolumeController* volume_;
+    DashboardUpdater* dashboard_;
+    ZoomController* zoom_;
+    FullScreenController* fullScreen_;
+    PlayAnimation* animation_;
+    ClipSaver* saver_;
+    AlertPresenter alert_;
+    VideoConverter convert_;
+    std::string currentVideoUrl_;
+    std::string bigVideoFilePath_;
+    std::string smallVideoFilePath_;
+    bool isVideoPaused_ = true;
+};
+
+}  // namespace tarvik

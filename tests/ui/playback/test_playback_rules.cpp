@@ -1,0 +1,364 @@
+// The playback helpers on their own, with real widgets and real telemetry
+// files: clip stepping, the dashboard's throttles and texts, zoom and pan,
+// volume and mute, the seek slider, the play animation, snapshot names, PNG
+// writes and printing.
+#include <QFile>
+#include <QLabel>
+#include <QPrinter>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTemporaryDir>
+#include <QTest>
+#include <sys/stat.h>
+
+#include "cardgen/demo_drive.h"
+#include "cardgen/telemetry_encoders.h"
+#include "core/telemetry/orvo_clip_data.h"
+#include "core/telemetry/subtitle_data.h"
+#include "ui/library/playback/clip_navigation.h"
+#include "ui/library/playback/clip_saver.h"
+#include "ui/library/playback/dashboard_updater.h"
+#include "ui/library/playback/play_animation.h"
+#include "ui/library/playback/seek_slider_controller.h"
+#include "ui/library/playback/volume_controller.h"
+#include "ui/library/playback/zoom_controller.h"
+#include "ui/telemetry/map_controller.h"
+#include "ui/telemetry/speed_meter_view.h"
+
+using namespace tarvik;
+
+namespace {
+
+// Playing time set by the test: the real player cannot be put at 0.299 s.
+struct SetClock : PlayClock {
+    double t = 0, d = 60;
+    double currentTime() const override { return t; }
+    double duration() const override { return d; }
+};
+
+struct Dashboard {
+    QLabel gx, gy, gz, lat, lng, time;
+    SpeedMeterView speed;
+    QWidget cover, web;
+    MapController map{nullptr};
+    SetClock clock;
+    DashboardUpdater updater;
+    Dashboard() : updater(targets(), clock) {}
+    DashboardTargets targets() {
+        DashboardTargets t;
+        t.gxText = &gx, t.gyText = &gy, t.gzText = &gz, t.latText = &lat, t.lngText = &lng;
+        t.playTimeText = &time, t.speedMeter = &speed, t.mapCover = &cover, t.mapWebView = &web, t.map = &map;
+        return t;
+    }
+    void at(double seconds) {
+        clock.t = seconds;
+        updater.playVideoTimerCallback();
+    }
+    // Without a page the map keeps only the latest move, which is the one to check.
+    QString lastMove() const {
+        const QStringList moves = map.pendingScripts().filter("MapMoveToAuto");
+        return moves.isEmpty() ? QString() : moves.last();
+    }
+};
+
+// Ten samples a second: G grows with the index, a fix from sample 10 to 39.
+OrvoClipData rampClip(int samples) {
+    OrvoClipData data;
+    data.setClipDataCount(samples);
+    for (int i = 0; i < samples; ++i) {
+        const bool fix = i >= 10 && i < 40;
+        data.storeSample(i, i, -i, 128, fix ? 37.5f + i * 0.001f : 0.0f, fix ? 127.0f : 0.0f, 30 + i);
+    }
+    data.setGpsDataCount(samples);
+    return data;
+}
+
+}  // namespace
+
+class PlaybackRulesTest : public QObject {
+    Q_OBJECT
+private slots:
+    void nextAndPreviousTreatPairsAsOneRecording() {
+        const std::vector<std::string> list = {"/c/A_F.mp4", "/c/A_R.mp4", "/c/B_F.mp4", "/c/B_R.mp4", "/c/C.avi"};
+        QCOMPARE(nextClipRow(list, 0), 2);   // skips its own rear file
+        QCOMPARE(nextClipRow(list, 1), 2);
+        QCOMPARE(nextClipRow(list, 2), 4);
+        QCOMPARE(nextClipRow(list, 4), 0);   // wraps on the last row
+        QCOMPARE(nextClipRow(list, -1), -1);
+        QCOMPARE(nextClipRow({"/c/A_F.mp4", "/c/A_R.mp4"}, 0), 0);  // the pair is all there is
+        QCOMPARE(previousClipRow(list, 2), 0);  // onto the preceding pair's front file
+        QCOMPARE(previousClipRow(list, 3), 2);  // a rear file steps to its own front
+        QCOMPARE(previousClipRow(list, 1), 0);
+        QCOMPARE(previousClipRow(list, 0), -1);  // no wrap backwards
+        QCOMPARE(previousClipRow(list, 4), 2);   // after a pair: that pair's front file
+        QCOMPARE(previousClipRow(list, 9), -1);
+        // AVI clips never pair, whatever their names say.
+        QCOMPARE(nextClipRow({"/c/D_F.avi", "/c/D_R.avi", "/c/E.avi"}, 0), 1);
+        QVERIFY(isMp4ClipPath("/x/a.MP4"));
+        QVERIFY(!isMp4ClipPath("/x.mp4/a"));
+        QVERIFY(!isMp4ClipPath("/x/a.mp4.tmp"));
+    }
+
+    void timeTextAndSampleIndexTruncate() {
+        QCOMPARE(DashboardUpdater::sampleIndex(12.39), 123);
+        QCOMPARE(DashboardUpdater::sampleIndex(0.099), 0);
+        QCOMPARE(DashboardUpdater::sampleIndex(std::nan("")), 0);
+        QCOMPARE(DashboardUpdater::playTimeText(0, 0), QString("00:00/00:00"));
+        QCOMPARE(DashboardUpdater::playTimeText(59.999, 3725.9), QString("00:59/62:05"));
+        QCOMPARE(DashboardUpdater::playTimeText(-1, std::numeric_limits<double>::infinity()), QString("00:00/00:00"));
+        QCOMPARE(DashboardUpdater::gValue(128), 1.0f);
+        QCOMPARE(DashboardUpdater::gValue(-64), -0.5f);
+    }
+
+    void embeddedTelemetryIsThrottled() {
+        Dashboard d;
+        const OrvoClipData clip = rampClip(50);
+        d.updater.setClipData(&clip);
+        d.web.hide();
+        d.at(0.0);  // 0 - 0 is not above 0.3: nothing yet
+        QCOMPARE(d.gx.text(), QString());
+        QCOMPARE(d.time.text(), QString("00:00/01:00"));
+        d.at(0.3);
+        QCOMPARE(d.gx.text(), QString());  // strictly more than 0.3 s
+        d.at(0.35);
+        QCOMPARE(d.gx.text(), QString("0.023"));  // sample 3: 3/128 g
+        QCOMPARE(d.gy.text(), QString("-0.023"));
+        QCOMPARE(d.speed.speed(), 33u);
+        QCOMPARE(d.lat.text(), QString("0.0000"));
+        d.at(0.6);
+        QCOMPARE(d.gx.text(), QString("0.023"));  // only 0.25 s later
+        d.at(1.2);  // map due: sample 12 has a fix
+        QCOMPARE(d.lastMove(), MapController::moveScript(clip.getGpsLat(12), 127.0f));
+        QVERIFY(d.cover.isHidden() && !d.web.isHidden());
+        QCOMPARE(d.lat.text(), QString("37.5120"));
+        d.at(2.15);  // not above 1.0 s since the last move
+        QCOMPARE(d.lastMove(), MapController::moveScript(clip.getGpsLat(12), 127.0f));
+        d.at(2.3);
+        QCOMPARE(d.lastMove(), MapController::moveScript(clip.getGpsLat(23), 127.0f));
+        d.at(4.5);  // the fix is lost: the cover comes back
+        QVERIFY(!d.cover.isHidden() && d.web.isHidden());
+        // Past the last sample the dashboard keeps what it showed.
+        const QString before = d.gx.text();
+        d.at(9.0);
+        QCOMPARE(d.gx.text(), before);
+        QCOMPARE(d.time.text(), QString("00:09/01:00"));
+        // Reset shows zeros and 00:00/00:00.
+        d.updater.resetVideoInformation();
+        QCOMPARE(d.gx.text(), QString("0.000"));
+        QCOMPARE(d.lng.text(), QString("0.0000"));
+        QCOMPARE(d.time.text(), QString("00:00/00:00"));
+        QCOMPARE(d.speed.speed(), 0u);
+    }
+
+    void subtitleTelemetryFollowsTheTrack() {
+        Dashboard d;
+        const auto secs = cardgen::driveSeconds(0, 20, 10);
+        SubtitleData subs;
+        subs.loadFromText(cardgen::srtTrack(secs));
+        OrvoClipData clip = rampClip(200);
+        d.updater.setClipData(&clip);
+        d.updater.setSubtitleData(&subs);
+        d.web.hide();
+        d.at(0.0);
+        QCOMPARE(d.gx.text(), QString());  // 0 - 0 < 0.3
+        d.at(0.3);                         // inclusive here
+        int x = 0, y = 0, z = 0;
+        QVERIFY(subs.getSensorAt(3, x, y, z));
+        QCOMPARE(d.gz.text(), QString::asprintf("%.3f", DashboardUpdater::gValue(z)));
+        // Between position records the map comes up once, then only the speed follows.
+        float lat = 0, lng = 0;
+        unsigned speed = 0;
+        QCOMPARE(subs.getGpsAt(3, lat, lng, speed), int(SubtitleData::GpsNearby));
+        QVERIFY(!d.web.isHidden() && d.cover.isHidden());
+        QCOMPARE(d.lastMove(), MapController::moveScript(lat, lng));
+        QCOMPARE(subs.getGpsAt(15, lat, lng, speed), int(SubtitleData::GpsNearby));
+        const QString latText = d.lat.text();
+        d.at(1.5);
+        QCOMPARE(d.speed.speed(), speed);
+        QCOMPARE(d.lat.text(), latText);
+        // The exact records move the map on the one-second grid.
+        int exactIndex = -1;
+        for (unsigned i = 20; i < 60 && exactIndex < 0; ++i)
+            if (subs.getGpsAt(i, lat, lng, speed) == SubtitleData::GpsExact) exactIndex = static_cast<int>(i);
+        QVERIFY(exactIndex > 0);
+        d.at(exactIndex / 10.0 + 0.001);
+        QCOMPARE(d.lat.text(), QString::asprintf("%.4f", lat));
+        QCOMPARE(d.updater.lastUpdatedMapTime(), exactIndex / 10.0 + 0.001);  // a jump restarts the grid
+        d.at(exactIndex / 10.0 + 1.0);
+        QCOMPARE(d.updater.lastUpdatedMapTime(), exactIndex / 10.0 + 0.001);  // 0.999 s: not yet
+        d.at(exactIndex / 10.0 + 1.05);
+        QCOMPARE(d.updater.lastUpdatedMapTime(), exactIndex / 10.0 + 0.001 + 1.0);  // steady: on the grid
+        // Without any position the cover returns and the gauge drops to 0.
+        SubtitleData empty;
+        d.updater.setSubtitleData(&empty);
+        d.at(3.0);
+        QVERIFY(!d.cover.isHidden() && d.web.isHidden());
+        QCOMPARE(d.speed.speed(), 0u);
+    }
+
+    void zoomClampsCentresAndNoticesPans() {
+        QCOMPARE(ZoomController::scaledUp(4.9), 5.0);
+        QCOMPARE(ZoomController::scaledDown(1.1), 1.0);
+        QCOMPARE(ZoomController::scaledUp(1.0), 1.0 + static_cast<double>(0.2f));
+
+        QScrollArea scroll;
+        scroll.setFrameShape(QFrame::NoFrame);
+        auto* doc = new QWidget;
+        scroll.setWidget(doc);
+        scroll.resize(400, 200);
+        scroll.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&scroll));
+        ZoomController zoom(&scroll, doc, nullptr);
+        zoom.resetForNewClip();
+        QVERIFY(!zoom.enableBigMovieViewScroll());
+        zoom.applyVideoScale(1.0);
+        QCOMPARE(doc->size(), QSize(400, 200));
+
+        zoom.enterScrollMode(true);  // the argument does not matter: it flips
+        QVERIFY(zoom.enableBigMovieViewScroll());
+        for (int i = 0; i < 25; ++i) zoom.videoScaleUpButtonTouched();
+        QCOMPARE(zoom.videoScale(), 5.0);
+        zoom.applyVideoScale(2.0);
+        QCOMPARE(doc->size(), QSize(800, 400));
+        QCOMPARE(scroll.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+        QCOMPARE(QPoint(scroll.horizontalScrollBar()->value(), scroll.verticalScrollBar()->value()),
+                 zoom.centredScrollPoint());
+        QVERIFY(!zoom.touchedBigMovieScroll());
+        scroll.horizontalScrollBar()->setValue(0);  // the user pans away
+        QVERIFY(zoom.touchedBigMovieScroll());
+        zoom.applyVideoScale(3.0);  // a pan is kept through zooming
+        QCOMPARE(scroll.horizontalScrollBar()->value(), 0);
+        zoom.resetVideoScaleButtonTouched();
+        QVERIFY(!zoom.touchedBigMovieScroll());
+        QTRY_COMPARE(doc->size(), QSize(400, 200));
+        QCOMPARE(scroll.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+        // Zoom down below 1 stops at 1 and forgets the pan.
+        zoom.videoScaleUpButtonTouched();
+        zoom.enterScrollMode(false);
+        zoom.enterScrollMode(false);
+        QTRY_VERIFY(doc->width() > 400);
+        scroll.verticalScrollBar()->setValue(0);
+        QVERIFY(zoom.touchedBigMovieScroll());
+        zoom.videoScaleDownButtonTouched();
+        zoom.videoScaleDownButtonTouched();
+        QCOMPARE(zoom.videoScale(), 1.0);
+        QVERIFY(!zoom.touchedBigMovieScroll());
+        QTRY_COMPARE(doc->size(), QSize(400, 200));
+        // Full screen leaves the document alone.
+        zoom.setFullScreenQuery([] { return true; });
+        zoom.applyVideoScale(4.0);
+        QCOMPARE(doc->size(), QSize(400, 200));
+    }
+
+    void volumeStepsClampAndMuteRestores() {
+        QSlider slider(Qt::Horizontal);
+        VolumeController volume(&slider, nullptr, nullptr);
+        QCOMPARE(volume.volume(), 1.0f);
+        volume.volumeUp();
+        QCOMPARE(volume.volume(), 1.0f);
+        volume.volumeDown();
+        volume.volumeDown();
+        QCOMPARE(volume.volume(), static_cast<float>(static_cast<double>(static_cast<float>(1.0 - 0.1)) - 0.1));
+        QCOMPARE(slider.value(), 80);
+        for (int i = 0; i < 20; ++i) volume.volumeDown();
+        QCOMPARE(volume.volume(), 0.0f);
+        volume.setVolume(0.37f);
+        volume.toggleMuteButtonTouched();
+        QVERIFY(volume.isMuted());
+        QCOMPARE(volume.volume(), 0.0f);
+        QVERIFY(!slider.isEnabled());
+        volume.toggleMuteButtonTouched();
+        QCOMPARE(volume.volume(), 0.37f);
+        QVERIFY(slider.isEnabled());
+        slider.setValue(55);  // the user drags the gauge
+        QCOMPARE(volume.volume(), 0.55f);
+        volume.setVolume(std::nanf(""));
+        QCOMPARE(volume.volume(), 0.0f);
+    }
+
+    void seekSliderValueAndThumb() {
+        QCOMPARE(SeekSliderController::valueFromPosition(10, 10, 210, 60), 0.0);
+        QCOMPARE(SeekSliderController::valueFromPosition(105, 10, 210, 60), 30.0);
+        // The far right end reads a little above the maximum (200 * 60 / 190).
+        QCOMPARE(SeekSliderController::valueFromPosition(500, 10, 210, 60), 200.0 * 60 / 190);
+        QCOMPARE(SeekSliderController::valueFromPosition(5, 10, 15, 60), 0.0);  // too narrow to seek
+
+        QSlider slider(Qt::Horizontal);
+        slider.resize(300, 20);
+        slider.show();
+        SeekSliderController seek(&slider);
+        seek.setCurrentSliderValue(5);
+        QCOMPARE(seek.currentSliderValue(), 0.0);  // no clip: maximum 0
+        seek.setMaxSliderValue(30);
+        seek.setCurrentSliderValue(12.5);
+        QCOMPARE(slider.value(), 12500);
+        seek.setCurrentSliderValue(99);
+        QCOMPARE(seek.currentSliderValue(), 30.0);
+
+        QSignalSpy up(&seek, &SeekSliderController::touchedUp);
+        QTest::mousePress(&slider, Qt::LeftButton, {}, QPoint(150, 10));
+        QVERIFY(seek.isSliderTouching());
+        const int held = slider.value();
+        seek.setCurrentSliderValue(1);  // playing on must not pull the thumb from the finger
+        QCOMPARE(slider.value(), held);
+        QTest::mouseRelease(&slider, Qt::LeftButton, {}, QPoint(150, 10));
+        QCOMPARE(up.count(), 1);
+        QVERIFY(qAbs(up.front().front().toDouble() - 15.0) < 1.5);
+        QVERIFY(!seek.isSliderTouching());
+    }
+
+    void playAnimationAlternatesFrames() {
+        QLabel car, earth;
+        PlayAnimation animation(&car, &earth);
+        animation.startPlayAnimation();
+        QVERIFY(animation.isRunning());
+        QList<int> frames;
+        for (int i = 0; i < 3; ++i) {
+            animation.playAnimationTimerCallback();
+            frames << animation.shownFrame();
+        }
+        QCOMPARE(frames, QList<int>({1, 2, 1}));
+        QVERIFY(!car.pixmap().isNull() && !earth.pixmap().isNull());
+        animation.stopPlayAnimation();
+        QVERIFY(!animation.isRunning());
+    }
+
+    void snapshotNamesTruncateMilliseconds() {
+        QCOMPARE(ClipSaver::snapshotFileName("A", 12.345), QString("A_12345.png"));
+        QCOMPARE(ClipSaver::snapshotFileName("A", 0.0005), QString("A_0.png"));
+        QCOMPARE(ClipSaver::snapshotFileName("A", 3725.9876), QString("A_3725987.png"));
+        QCOMPARE(ClipSaver::snapshotFileName("A", std::nan("")), QString("A_0.png"));
+        QCOMPARE(ClipSaver::baseNameOf("/card/cont_rec/20261121_083000_F.mp4"), QString("20261121_083000_F"));
+        QCOMPARE(ClipSaver::baseNameOf("/card/a.b.avi"), QString("a.b"));
+        QCOMPARE(ClipSaver::baseNameOf(""), QString());
+    }
+
+    void pngAndPrintWritesAreWholeOrNothing() {
+        QTemporaryDir dir;
+        QImage image(320, 180, QImage::Format_RGB32);
+        image.fill(Qt::darkCyan);
+        const QString png = dir.filePath("shot.png");
+        QVERIFY(ClipSaver::writePng(image, png));
+        QCOMPARE(QImage(png).size(), QSize(320, 180));
+        QVERIFY(!ClipSaver::writePng(QImage(), dir.filePath("null.png")));
+        QVERIFY(!QFile::exists(dir.filePath("null.png")));
+        // A read-only folder refuses the write and keeps no temporary behind.
+        const QString locked = dir.filePath("locked");
+        QVERIFY(QDir().mkdir(locked));
+        ::chmod(QFile::encodeName(locked).constData(), 0555);
+        if (::access(QFile::encodeName(locked).constData(), W_OK) != 0) {
+            QVERIFY(!ClipSaver::writePng(image, locked + "/shot.png"));
+            QCOMPARE(QDir(locked).entryList(QDir::NoDotAndDotDot | QDir::AllEntries).size(), 0);
+        }
+        ::chmod(QFile::encodeName(locked).constData(), 0755);
+        // Copies never replace a file.
+        QVERIFY(ClipSaver::copyClip(QFile::encodeName(png).toStdString(), dir.filePath("copy.png")));
+        QVERIFY(!ClipSaver::copyClip(QFile::encodeName(png).toStdString(), dir.filePath("copy.png")));
+        QVERIFY(!ClipSaver::copyClip("/nonexistent/clip.mp4", dir.filePath("nothing.mp4")));
+    }
+};
+
+QTEST_MAIN(PlaybackRulesTest)
+#include "test_playback_rules.moc"
