@@ -25,6 +25,32 @@ bool isTextChunk(const unsigned char* c) {
     return c[0] == '0' && (c[1] == '2' || c[1] == '3') && c[2] == 't' && c[3] == 'x';
 }
 
+// Reads small pieces of the file through a 4 KiB window: the text and audio
+// chunks between two frames usually share one read.
+class WindowReader {
+public:
+    explicit WindowReader(const MappedFile& file) : file_(file) {}
+    bool get(std::uint64_t pos, void* dst, std::size_t n) {
+        if (pos < start_ || pos + n > start_ + len_) {
+            if (pos >= file_.size()) return false;
+            len_ = static_cast<std::size_t>(std::min<std::uint64_t>(sizeof buf_, file_.size() - pos));
+            if (len_ < n || !file_.readAt(static_cast<std::size_t>(pos), buf_, len_)) {
+                len_ = 0;
+                return false;
+            }
+            start_ = pos;
+        }
+        std::memcpy(dst, buf_ + (pos - start_), n);
+        return true;
+    }
+
+private:
+    const MappedFile& file_;
+    unsigned char buf_[4096];
+    std::uint64_t start_ = 0;
+    std::size_t len_ = 0;
+};
+
 struct ChunkWalk {
     ChunkWalk(AviFamily family) : krt(family == AviFamily::Krt), second(raw) {}
 
@@ -77,19 +103,32 @@ int readAviChunks(const MappedFile& file, AviFamily family, OrvoClipData& out) {
     if (n < 12 || std::memcmp(d, "RIFF", 4) != 0 || std::memcmp(d + 8, "AVI ", 4) != 0) return 0;
 
     auto walk = std::make_unique<ChunkWalk>(family);
+    auto window = std::make_unique<WindowReader>(file);
     // Lists are descended into by reading on past their type, so the walk is flat.
     std::uint64_t pos = 12;
+    unsigned char h[8];
+    unsigned char small[256];
     while (pos + 8 <= n && !walk->raw.full()) {
-        const unsigned char* h = d + pos;
+        // Headers are read, not mapped: touching one page per chunk of a long
+        // clip costs more than the read.
+        if (!window->get(pos, h, 8)) break;
         const std::uint64_t size = le32(h + 4);
         pos += 8;
         if (std::memcmp(h, "LIST", 4) == 0) {
             pos += 4;
             continue;
         }
-        if (isTextChunk(h)) walk->payload(d + pos, static_cast<std::size_t>(std::min<std::uint64_t>(size, n - pos)));
+        if (isTextChunk(h)) {
+            const std::size_t len = static_cast<std::size_t>(std::min<std::uint64_t>(size, n - pos));
+            if (len <= sizeof small) {
+                if (!window->get(pos, small, len)) break;
+                walk->payload(small, len);
+            } else {
+                // A long text chunk is read in place; the cameras write none.
+                walk->payload(d + pos, len);
+            }
+        }
         pos += size + (size & 1);
-        file.releaseBefore(static_cast<std::size_t>(std::min<std::uint64_t>(pos, n)));
     }
     if (!walk->raw.full()) walk->second.flushLeftover(walk->held);
     return walk->raw.finish(out);

@@ -10,9 +10,9 @@ namespace tarvik {
 
 namespace {
 template <typename Reader>
-int readFile(const std::string& path, Reader reader) {
+int readFile(const std::string& path, Reader reader, MappedFile::Access access = MappedFile::Access::Sequential) {
     MappedFile file;
-    if (!file.open(path)) return 0;
+    if (!file.open(path, access)) return 0;
     return reader(file);
 }
 
@@ -74,14 +74,14 @@ int OrvoClipData::getAllDataFromFile(const char* path) {
     if (!path) return 0;
     return readFile(path, [&](const MappedFile& f) {
         return readers::readAviChunks(f, readers::AviFamily::General, *this);
-    });
+    }, MappedFile::Access::Sparse);
 }
 
 int OrvoClipData::getAllDataFromFile_KRT(const char* path) {
     if (!path) return 0;
     return readFile(path, [&](const MappedFile& f) {
         return readers::readAviChunks(f, readers::AviFamily::Krt, *this);
-    });
+    }, MappedFile::Access::Sparse);
 }
 
 std::uint32_t OrvoClipData::cal_string(std::string_view text) { return records::nmeaToMicroDegrees(text); }

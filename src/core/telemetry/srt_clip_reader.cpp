@@ -115,6 +115,7 @@ public:
 
     int run(OrvoClipData& out) {
         CueScanner cues(t_);
+        file_.scannedUpTo(0);
         std::string_view body;
         std::size_t cueStart = 0, secondStart = 0;
         GpsFix held;
@@ -132,7 +133,7 @@ public:
                 gpsSeen = true;
                 closeSecond(held, secondStart, cues.pos());
             }
-            file_.releaseBefore(static_cast<std::size_t>(t_.data() + cueStart -
+            file_.scannedUpTo(static_cast<std::size_t>(t_.data() + cueStart -
                                                          reinterpret_cast<const char*>(file_.data())));
         }
         if (raw_.count() == 0 && second_.pending() > 0) {
@@ -191,8 +192,9 @@ int readSrtCues(const MappedFile& file, OrvoClipData& out) {
     for (std::size_t b = 0; b < n;) {
         std::size_t e = std::min(n, b + kBlock);
         while (e < n && (d[e] & 0xC0) == 0x80) ++e;
+        file.scannedUpTo(b);
         if (!text::isValidUtf8(d + b, e - b)) return 0;
-        file.releaseBefore(e);
+        file.scannedUpTo(e);
         b = e;
     }
     auto scan = std::make_unique<SrtScan>(file, std::string_view(reinterpret_cast<const char*>(d), n));

@@ -41,8 +41,9 @@ int readTailText(const MappedFile& file, OrvoClipData& out) {
         std::size_t e = std::min(n, b + kBlock);
         // Do not cut a multi-byte sequence in two: extend the block to the next lead byte.
         while (e < n && (d[e] & 0xC0) == 0x80) ++e;
+        file.scannedUpTo(b);
         if (!text::isValidUtf8(d + b, e - b)) return 0;
-        file.releaseBefore(e);
+        file.scannedUpTo(e);
         b = e;
     }
 
@@ -68,7 +69,7 @@ int readTailText(const MappedFile& file, OrvoClipData& out) {
         }
         if (nl == std::string_view::npos) break;
         pos = nl + 1;
-        file.releaseBefore(from + pos);
+        file.scannedUpTo(from + pos);
     }
     out.setGpsDataCount(withFix);
     return count;

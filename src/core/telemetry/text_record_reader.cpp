@@ -4,6 +4,10 @@
 #include <string_view>
 #include <vector>
 
+#if defined(__x86_64__) || defined(__i386__)
+#include <immintrin.h>
+#endif
+
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/second_resampler.h"
 #include "core/telemetry/telemetry_readers.h"
@@ -16,31 +20,128 @@ namespace {
 
 constexpr std::size_t kMaxText = 119;
 
-// Finds the next "02tx"/"03tx" tag at or after `from`; n when there is none.
-std::size_t nextTag(const unsigned char* d, std::size_t n, std::size_t from) {
-    while (from + 4 <= n) {
-        const void* hit = std::memchr(d + from, '0', n - from - 3);
-        if (!hit) return n;
-        const std::size_t p = static_cast<std::size_t>(static_cast<const unsigned char*>(hit) - d);
-        if ((d[p + 1] == '2' || d[p + 1] == '3') && d[p + 2] == 't' && d[p + 3] == 'x') return p;
-        from = p + 1;
-    }
-    return n;
+bool tagAt(const unsigned char* d, std::size_t p) {
+    return d[p] == '0' && (d[p + 1] == '2' || d[p + 1] == '3') && d[p + 2] == 't' && d[p + 3] == 'x';
 }
 
-// The record text of the tag at p: past the tag and the low size byte, past
-// any zero bytes, up to the next zero byte, at most 119 bytes. A chunk of 256
-// bytes or more thus reads as text starting with its second size byte; the
-// cameras never write records that long.
-std::string_view recordText(const unsigned char* d, std::size_t n, std::size_t p) {
-    std::size_t q = p + 5;
-    while (q < n && d[q] == 0) ++q;
-    if (q >= n) return {};
-    const std::size_t max = std::min(kMaxText, n - q);
-    const void* z = std::memchr(d + q, 0, max);
-    const std::size_t len = z ? static_cast<std::size_t>(static_cast<const unsigned char*>(z) - (d + q)) : max;
-    return {reinterpret_cast<const char*>(d + q), len};
+// Vector scans over d[p, len): they return the first tag start they find, or
+// the first position they did not look at (the caller finishes byte by byte).
+// Each tests '0' at i and 'x' at i + 3 for many i at once; candidates are rare.
+#if defined(__x86_64__) || defined(__i386__)
+__attribute__((target("avx2"))) std::size_t scanAvx2(const unsigned char* d, std::size_t p, std::size_t len) {
+    const __m256i zero = _mm256_set1_epi8('0'), ex = _mm256_set1_epi8('x');
+    for (; p + 67 <= len; p += 64) {
+        const __m256i m0 = _mm256_and_si256(
+            _mm256_cmpeq_epi8(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(d + p)), zero),
+            _mm256_cmpeq_epi8(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(d + p + 3)), ex));
+        const __m256i m1 = _mm256_and_si256(
+            _mm256_cmpeq_epi8(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(d + p + 32)), zero),
+            _mm256_cmpeq_epi8(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(d + p + 35)), ex));
+        if (_mm256_testz_si256(_mm256_or_si256(m0, m1), _mm256_or_si256(m0, m1))) continue;
+        const std::uint64_t mask = static_cast<std::uint32_t>(_mm256_movemask_epi8(m0)) |
+                                   static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm256_movemask_epi8(m1))) << 32;
+        for (std::uint64_t m = mask; m; m &= m - 1) {
+            const std::size_t q = p + static_cast<std::size_t>(__builtin_ctzll(m));
+            if (tagAt(d, q)) return q;
+        }
+    }
+    return p;
 }
+#endif
+
+#ifdef __SSE2__
+std::size_t scanSse2(const unsigned char* d, std::size_t p, std::size_t len) {
+    const __m128i zero = _mm_set1_epi8('0'), ex = _mm_set1_epi8('x');
+    for (; p + 19 <= len; p += 16) {
+        const __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + p));
+        const __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + p + 3));
+        for (unsigned m = static_cast<unsigned>(
+                 _mm_movemask_epi8(_mm_and_si128(_mm_cmpeq_epi8(a, zero), _mm_cmpeq_epi8(b, ex))));
+             m; m &= m - 1) {
+            const std::size_t q = p + static_cast<std::size_t>(__builtin_ctz(m));
+            if (tagAt(d, q)) return q;
+        }
+    }
+    return p;
+}
+#endif
+
+std::size_t scanWindow(const unsigned char* d, std::size_t p, std::size_t len) {
+#if defined(__x86_64__) || defined(__i386__)
+    static const bool avx2 = __builtin_cpu_supports("avx2");
+    if (avx2) {
+        p = scanAvx2(d, p, len);
+        if (p + 4 <= len && tagAt(d, p)) return p;
+    }
+#endif
+#ifdef __SSE2__
+    p = scanSse2(d, p, len);
+#endif
+    return p;
+}
+
+// Finds "02tx"/"03tx" tags anywhere in the file, reading it through a buffer
+// small enough to stay in the processor's cache while it is searched. Picture
+// data holds a '0' every few hundred bytes, so the search tests the first and
+// the last byte of the tag together, sixteen positions at a time.
+class TagScanner {
+public:
+    static constexpr std::size_t kWindow = 256 * 1024;
+
+    explicit TagScanner(const MappedFile& file) : file_(file), buf_(kWindow) {}
+
+    // The next tag at or after `from`; size() when there is none.
+    std::size_t next(std::size_t from) {
+        const std::size_t n = file_.size();
+        while (from + 4 <= n) {
+            if (from < start_ || from + 4 > start_ + len_) {
+                start_ = from;
+                len_ = std::min(kWindow, n - from);
+                if (!file_.readAt(start_, buf_.data(), len_)) return n;
+            }
+            const unsigned char* d = buf_.data();
+            const std::size_t last = len_ - 4;  // the last tag start inside the window
+            std::size_t p = from - start_;
+            p = scanWindow(d, p, len_);
+            for (; p <= last; ++p)
+                if (tagAt(d, p)) return start_ + p;
+            if (start_ + len_ >= n) return n;
+            // Go on from the first start not yet tried: a tag may straddle two windows.
+            from = start_ + last + 1;
+        }
+        return n;
+    }
+
+    // The record text of the tag at p: past the tag and the low size byte,
+    // past any zero bytes, up to the next zero byte, at most 119 bytes. A
+    // chunk of 256 bytes or more thus reads as text starting with its second
+    // size byte; the cameras never write records that long.
+    std::string_view record(std::size_t p) {
+        const std::size_t n = file_.size();
+        std::size_t q = p + 5;
+        for (;;) {  // skip the zero run, a piece at a time
+            if (q >= n) return {};
+            const std::size_t len = std::min(sizeof piece_, n - q);
+            if (!file_.readAt(q, piece_, len)) return {};
+            std::size_t k = 0;
+            while (k < len && piece_[k] == 0) ++k;
+            q += k;
+            if (k < len) break;
+        }
+        const std::size_t max = std::min(kMaxText, n - q);
+        if (!file_.readAt(q, text_, max)) return {};
+        const void* z = std::memchr(text_, 0, max);
+        const std::size_t len = z ? static_cast<std::size_t>(static_cast<const char*>(z) - text_) : max;
+        return {text_, len};
+    }
+
+private:
+    const MappedFile& file_;
+    std::vector<unsigned char> buf_;
+    std::size_t start_ = 0, len_ = 0;
+    unsigned char piece_[512];
+    char text_[kMaxText];
+};
 
 enum class Kind { Other, Reading, Position };
 
@@ -59,15 +160,15 @@ Kind classify(std::string_view rec, std::vector<std::string_view>& f, GReading& 
 
 class TextRecordScan {
 public:
-    TextRecordScan(const MappedFile& file) : file_(file), d_(file.data()), n_(file.size()), second_(raw_) {}
+    TextRecordScan(const MappedFile& file) : n_(file.size()), tags_(file), second_(raw_) {}
 
     int run(OrvoClipData& out) {
         GpsFix held;
         bool gpsSeen = false;
         std::size_t secondStart = 0;
-        for (std::size_t p = nextTag(d_, n_, 0); p < n_ && !raw_.full(); p = nextTag(d_, n_, p + 1)) {
+        for (std::size_t p = tags_.next(0); p < n_ && !raw_.full(); p = tags_.next(p + 1)) {
             GReading g;
-            switch (classify(recordText(d_, n_, p), f_, g)) {
+            switch (classify(tags_.record(p), f_, g)) {
             case Kind::Reading:
                 if (second_.pending() == 0) secondStart = p;
                 second_.add(g);
@@ -80,7 +181,6 @@ public:
             case Kind::Other:
                 break;
             }
-            file_.releaseBefore(p);
         }
         if (raw_.count() == 0 && second_.pending() > 0) {
             if (gpsSeen) {
@@ -107,19 +207,17 @@ private:
         const int want = SecondResampler::pick(second_.pending(), idx);
         std::size_t k = 0;
         int got = 0;
-        for (std::size_t p = nextTag(d_, n_, from); p < to && got < want; p = nextTag(d_, n_, p + 1)) {
+        for (std::size_t p = tags_.next(from); p < to && got < want; p = tags_.next(p + 1)) {
             GReading g;
-            if (classify(recordText(d_, n_, p), f_, g) != Kind::Reading) continue;
+            if (classify(tags_.record(p), f_, g) != Kind::Reading) continue;
             while (got < want && idx[got] == k) chosen[got++] = g;
             ++k;
-            file_.releaseBefore(p);
         }
         second_.close(fix, chosen);
     }
 
-    const MappedFile& file_;
-    const unsigned char* d_;
     std::size_t n_;
+    TagScanner tags_;
     RawSamples raw_;
     SecondResampler second_;
     std::vector<std::string_view> f_;
@@ -129,7 +227,6 @@ private:
 
 int readTextRecords(const MappedFile& file, OrvoClipData& out) {
     out.setGpsDataCount(0);
-    if (!file.data()) return 0;
     auto scan = std::make_unique<TextRecordScan>(file);
     return scan->run(out);
 }
