@@ -207,8 +207,8 @@ void BM_LoaderChain_1GiB(benchmark::State& state) {
     });
 }
 
-BENCHMARK(BM_ChunkWalkGeneral_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_ChunkWalkKrt_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ChunkWalkGeneral_1GiB)->UseManualTime()->Iterations(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ChunkWalkKrt_1GiB)->UseManualTime()->Iterations(10)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_TextRecordScan_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_TailText_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_LoaderChain_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);

@@ -25,7 +25,7 @@ bool isTextChunk(const unsigned char* c) {
     return c[0] == '0' && (c[1] == '2' || c[1] == '3') && c[2] == 't' && c[3] == 'x';
 }
 
-// Reads small pieces of the file through a 4 KiB window: the text and audio
+// Reads small pieces of the file through a 2 KiB window: the text and audio
 // chunks between two frames usually share one read.
 class WindowReader {
 public:
@@ -46,7 +46,7 @@ public:
 
 private:
     const MappedFile& file_;
-    unsigned char buf_[4096];
+    unsigned char buf_[2048];
     std::uint64_t start_ = 0;
     std::size_t len_ = 0;
 };
