@@ -15,13 +15,12 @@ bool digit(char c) { return c >= '0' && c <= '9'; }
 // Matches "dd:(dd):(dd(,d+))\s*-->\s*[0-9:.]+" at p; on success gives the
 // minutes and the seconds-with-fraction texts.
 bool timingAt(std::string_view s, std::size_t p, std::string_view& minutes, std::string_view& seconds) {
-    auto need = [&](std::size_t i, bool ok) { return i < s.size() && ok; };
     if (p + 10 > s.size()) return false;
     if (!(digit(s[p]) && digit(s[p + 1]) && s[p + 2] == ':' && digit(s[p + 3]) && digit(s[p + 4]) &&
           s[p + 5] == ':' && digit(s[p + 6]) && digit(s[p + 7]) && s[p + 8] == ','))
         return false;
     std::size_t i = p + 9;
-    if (!need(i, digit(s[i]))) return false;
+    if (i >= s.size() || !digit(s[i])) return false;
     while (i < s.size() && digit(s[i])) ++i;
     minutes = s.substr(p + 3, 2);
     seconds = s.substr(p + 6, i - (p + 6));
@@ -29,7 +28,7 @@ bool timingAt(std::string_view s, std::size_t p, std::string_view& minutes, std:
     if (s.substr(i, 3) != "-->") return false;
     i += 3;
     while (i < s.size() && text::isSpace(static_cast<unsigned char>(s[i]))) ++i;
-    return need(i, digit(s[i]) || s[i] == ':' || s[i] == '.');
+    return i < s.size() && (digit(s[i]) || s[i] == ':' || s[i] == '.');
 }
 
 int clampToInt(float v) {

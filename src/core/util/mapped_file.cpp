@@ -20,6 +20,7 @@ MappedFile::~MappedFile() {
 
 bool MappedFile::readAt(std::size_t offset, void* dst, std::size_t n) const {
     if (offset > size_ || n > size_ - offset) return false;
+    if (n == 0) return true;
     if (fd_ < 0) {
         std::memcpy(dst, data_ + offset, n);
         return true;

@@ -18,6 +18,10 @@ TEST(SubtitleTrack, CueTimesAndRecords) {
     EXPECT_EQ(SubtitleEntry::entryWithTime("x 00:00:01,5-->1")->cts, 1500u);
     EXPECT_FALSE(SubtitleEntry::entryWithTime("00:00:01.500 --> 00:00:02,000"));
     EXPECT_FALSE(SubtitleEntry::entryWithTime("00:00:01,500 -> 00:00:02,000"));
+    // A line that stops right after "-->" or after the comma: nothing past the line may count.
+    const std::string buffer = "00:00:01,500 -->1\n00:00:01,7";
+    EXPECT_FALSE(SubtitleEntry::entryWithTime(std::string_view(buffer).substr(0, 16)));
+    EXPECT_FALSE(SubtitleEntry::entryWithTime(std::string_view(buffer).substr(18, 9)));
     // Cue times are summed in single precision: 16.3 s falls just short of 16300 ms.
     EXPECT_EQ(SubtitleEntry::entryWithTime("00:00:16,300 --> 00:00:16,400")->cts, 16299u);
 

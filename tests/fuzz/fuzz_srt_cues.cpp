@@ -1,0 +1,5 @@
+#include "fuzz_common.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    return tarvik::fuzz::check(data, size, tarvik::readers::readSrtCues);
+}
