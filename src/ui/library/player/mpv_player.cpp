@@ -1,0 +1,380 @@
+#include "ui/library/player/mpv_player.h"
+
+#include <mpv/client.h>
+#include <mpv/render_gl.h>
+
+#include <QCoreApplication>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
+#include <QOpenGLFunctions>
+#include <QThreadPool>
+#include <clocale>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace tarvik {
+
+namespace {
+
+// Pictures are drawn in the player's own context and shown by whichever
+// widget hosts the player, so every GL context of the program must share
+// objects. The attribute only takes effect before QApplication exists.
+const bool kShareContexts = [] {
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    return true;
+}();
+
+enum Observed : uint64_t { TimePos = 1, Duration, Pause, Speed, Direction, Eof, DisplayWidth, DisplayHeight };
+
+void* glProcAddress(void*, const char* name) {
+    QOpenGLContext* ctx = QOpenGLContext::currentContext();
+    return ctx ? reinterpret_cast<void*>(ctx->getProcAddress(name)) : nullptr;
+}
+
+// Keeps whatever context the caller had current (a widget may be painting).
+class ScopedCurrent {
+public:
+    ScopedCurrent(QOpenGLContext* ctx, QSurface* surface)
+        : prev_(QOpenGLContext::currentContext()), prevSurface_(prev_ ? prev_->surface() : nullptr), ctx_(ctx) {
+        ok_ = ctx_->makeCurrent(surface);
+    }
+    ~ScopedCurrent() {
+        if (prev_ && prev_ != ctx_) prev_->makeCurrent(prevSurface_);
+        else if (!prev_) ctx_->doneCurrent();
+    }
+    bool ok() const { return ok_; }
+
+private:
+    QOpenGLContext* prev_;
+    QSurface* prevSurface_;
+    QOpenGLContext* ctx_;
+    bool ok_ = false;
+};
+
+QSize nodeTrackSize(const mpv_node& list, bool* anyVideo) {
+    QSize size;
+    if (list.format != MPV_FORMAT_NODE_ARRAY) return size;
+    for (int i = 0; i < list.u.list->num; ++i) {
+        const mpv_node& t = list.u.list->values[i];
+        if (t.format != MPV_FORMAT_NODE_MAP) continue;
+        QString type;
+        bool selected = false, image = false;
+        qint64 w = 0, h = 0;
+        for (int k = 0; k < t.u.list->num; ++k) {
+            const char* key = t.u.list->keys[k];
+            const mpv_node& v = t.u.list->values[k];
+            if (!qstrcmp(key, "type") && v.format == MPV_FORMAT_STRING) type = QString::fromUtf8(v.u.string);
+            else if (!qstrcmp(key, "selected") && v.format == MPV_FORMAT_FLAG) selected = v.u.flag;
+            else if (!qstrcmp(key, "albumart") && v.format == MPV_FORMAT_FLAG) image = v.u.flag;
+            else if (!qstrcmp(key, "demux-w") && v.format == MPV_FORMAT_INT64) w = v.u.int64;
+            else if (!qstrcmp(key, "demux-h") && v.format == MPV_FORMAT_INT64) h = v.u.int64;
+        }
+        if (type != "video" || image) continue;
+        *anyVideo = true;
+        if (selected && size.isEmpty() && w > 0 && h > 0) size = QSize(int(w), int(h));
+    }
+    return size;
+}
+
+}  // namespace
+
+MpvPlayer::MpvPlayer(QObject* parent) : QObject(parent) {
+    (void)kShareContexts;
+    // libmpv refuses to start under a locale whose decimal point is not '.'.
+    std::setlocale(LC_NUMERIC, "C");
+    mpv_ = mpv_create();
+    if (!mpv_) return;
+    static const std::pair<const char*, const char*> options[] = {
+        {"vo", "libmpv"},         {"keep-open", "yes"},   {"pause", "yes"},
+        {"hr-seek", "yes"},       {"idle", "yes"},        {"audio-fallback-to-null", "yes"},
+        {"load-scripts", "no"},   {"ytdl", "no"},         {"osc", "no"},
+        {"input-default-bindings", "no"}, {"input-vo-keyboard", "no"}, {"terminal", "no"},
+        {"hwdec", "no"},          {"gpu-hwdec-interop", "no"},          {"sub-auto", "no"},     {"audio-file-auto", "no"},
+    };
+    for (const auto& [name, value] : options) mpv_set_option_string(mpv_, name, value);
+    if (mpv_initialize(mpv_) < 0) {
+        mpv_terminate_destroy(mpv_);
+        mpv_ = nullptr;
+        return;
+    }
+    mpv_observe_property(mpv_, TimePos, "time-pos", MPV_FORMAT_DOUBLE);
+    mpv_observe_property(mpv_, Duration, "duration", MPV_FORMAT_DOUBLE);
+    mpv_observe_property(mpv_, Pause, "pause", MPV_FORMAT_FLAG);
+    mpv_observe_property(mpv_, Speed, "speed", MPV_FORMAT_DOUBLE);
+    mpv_observe_property(mpv_, Direction, "play-dir", MPV_FORMAT_STRING);
+    mpv_observe_property(mpv_, Eof, "eof-reached", MPV_FORMAT_FLAG);
+    mpv_observe_property(mpv_, DisplayWidth, "dwidth", MPV_FORMAT_INT64);
+    mpv_observe_property(mpv_, DisplayHeight, "dheight", MPV_FORMAT_INT64);
+    mpv_set_wakeup_callback(mpv_, &MpvPlayer::onWakeup, this);
+    if (!initGl()) qWarning("MpvPlayer: no OpenGL context; playing without a picture");
+}
+
+MpvPlayer::~MpvPlayer() { shutdown(); }
+
+bool MpvPlayer::initGl() {
+    QOpenGLContext* share = QOpenGLContext::globalShareContext();
+    if (!share) return false;
+    gl_ = std::make_unique<QOpenGLContext>();
+    gl_->setShareContext(share);
+    gl_->setFormat(share->format());
+    if (!gl_->create()) return false;
+    surface_ = std::make_unique<QOffscreenSurface>();
+    surface_->setFormat(gl_->format());
+    surface_->create();
+    ScopedCurrent current(gl_.get(), surface_.get());
+    if (!current.ok()) return false;
+    mpv_opengl_init_params glInit{&glProcAddress, nullptr};
+    mpv_render_param params[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_OPENGL)},
+                                 {MPV_RENDER_PARAM_OPENGL_INIT_PARAMS, &glInit},
+                                 {MPV_RENDER_PARAM_INVALID, nullptr}};
+    if (mpv_render_context_create(&render_, mpv_, params) < 0) {
+        render_ = nullptr;
+        return false;
+    }
+    mpv_render_context_set_update_callback(render_, &MpvPlayer::onRenderUpdate, this);
+    return true;
+}
+
+void MpvPlayer::shutdown() {
+    if (!mpv_) return;
+    // After this returns mpv calls neither callback again, so no queued call
+    // can reach a deleted object.
+    mpv_set_wakeup_callback(mpv_, nullptr, nullptr);
+    if (render_ || fbo_) {
+        ScopedCurrent current(gl_.get(), surface_.get());
+        if (render_) {
+            mpv_render_context_set_update_callback(render_, nullptr, nullptr);
+            mpv_render_context_free(render_);
+            render_ = nullptr;
+        }
+        fbo_.reset();
+    }
+    gl_.reset();
+    surface_.reset();
+    hasFrame_ = false;
+    mpv_handle* handle = mpv_;
+    mpv_ = nullptr;
+    // Ending mpv waits for its threads (a demuxer may be stuck on a bad
+    // file); the interface does not wait for that.
+    QThreadPool::globalInstance()->start([handle] { mpv_terminate_destroy(handle); });
+}
+
+void MpvPlayer::onWakeup(void* self) {
+    QMetaObject::invokeMethod(static_cast<MpvPlayer*>(self), "processEvents", Qt::QueuedConnection);
+}
+
+void MpvPlayer::onRenderUpdate(void* self) {
+    QMetaObject::invokeMethod(static_cast<MpvPlayer*>(self), "renderFrame", Qt::QueuedConnection);
+}
+
+void MpvPlayer::command(std::initializer_list<const char*> args) {
+    if (!mpv_) return;
+    std::vector<const char*> argv(args);
+    argv.push_back(nullptr);
+    mpv_command_async(mpv_, 0, argv.data());
+}
+
+void MpvPlayer::load(const QString& path) {
+    path_ = path;
+    loaded_ = hasVideo_ = eof_ = false;
+    seeking_ = true;  // until playback (re)starts at the beginning
+    pendingSteps_.clear();
+    if (!mpv_) {
+        QMetaObject::invokeMethod(this, &MpvPlayer::failed, Qt::QueuedConnection);
+        return;
+    }
+    const QByteArray local = path.toUtf8();
+    command({"loadfile", local.constData(), "replace"});
+}
+
+void MpvPlayer::setRate(float rate) {
+    if (!mpv_) return;
+    rate_ = rate;
+    int pause = rate == 0.0f ? 1 : 0;
+    if (!pause) {
+        double speed = std::fabs(rate);
+        const bool backward = rate < 0.0f;
+        if (backward != backward_) {
+            seeking_ = true;  // turning round restarts playback at the current time
+            const char* dir = backward ? "backward" : "forward";
+            mpv_set_property_async(mpv_, 0, "play-dir", MPV_FORMAT_STRING, &dir);
+        }
+        mpv_set_property_async(mpv_, 0, "speed", MPV_FORMAT_DOUBLE, &speed);
+    }
+    mpv_set_property_async(mpv_, 0, "pause", MPV_FORMAT_FLAG, &pause);
+}
+
+void MpvPlayer::seekExact(double seconds) {
+    const QByteArray at = QByteArray::number(seconds, 'f', 6);
+    eof_ = false;
+    seeking_ = true;
+    command({"seek", at.constData(), "absolute+exact"});
+}
+
+void MpvPlayer::frameStep() { runStep(Step::Forward); }
+void MpvPlayer::frameBackStep() { runStep(Step::Backward); }
+
+void MpvPlayer::runStep(Step step) {
+    if (seeking_) {
+        pendingSteps_.push_back(step);
+        return;
+    }
+    if (step == Step::Forward) {
+        command({"frame-step"});
+    } else {
+        seeking_ = true;  // a step back is a seek to the previous frame
+        command({"frame-back-step"});
+    }
+}
+
+void MpvPlayer::setVolume(float volume) {
+    volume_ = std::clamp(volume, 0.0f, 1.0f);
+    double v = volume_ * 100.0;
+    if (mpv_) mpv_set_property_async(mpv_, 0, "volume", MPV_FORMAT_DOUBLE, &v);
+}
+
+void MpvPlayer::setMuted(bool muted) {
+    muted_ = muted;
+    int flag = muted ? 1 : 0;
+    if (mpv_) mpv_set_property_async(mpv_, 0, "mute", MPV_FORMAT_FLAG, &flag);
+}
+
+unsigned MpvPlayer::textureId() const { return hasFrame_ && fbo_ ? fbo_->texture() : 0; }
+QSize MpvPlayer::textureSize() const { return fbo_ ? fbo_->size() : QSize(); }
+
+void MpvPlayer::processEvents() {
+    // A handler may shut this player down (its owner moving on to the next
+    // clip); mpv_ then becomes null and the loop ends.
+    while (mpv_) {
+        mpv_event* e = mpv_wait_event(mpv_, 0);
+        if (!e || e->event_id == MPV_EVENT_NONE) break;
+        handleEvent(*e);
+    }
+}
+
+void MpvPlayer::handleEvent(const mpv_event& e) {
+    switch (e.event_id) {
+    case MPV_EVENT_FILE_LOADED:
+        handleFileLoaded();
+        break;
+    case MPV_EVENT_END_FILE: {
+        const auto* end = static_cast<const mpv_event_end_file*>(e.data);
+        seeking_ = false;
+        pendingSteps_.clear();
+        if (end->reason == MPV_END_FILE_REASON_ERROR || (!loaded_ && end->reason == MPV_END_FILE_REASON_EOF)) {
+            loaded_ = false;
+            emit failed();
+        } else if (end->reason == MPV_END_FILE_REASON_EOF) {
+            emit endReached();
+        }
+        break;
+    }
+    case MPV_EVENT_PLAYBACK_RESTART:
+        seeking_ = false;
+        emit seeked();
+        while (mpv_ && !seeking_ && !pendingSteps_.empty()) {
+            const Step next = pendingSteps_.front();
+            pendingSteps_.pop_front();
+            runStep(next);
+        }
+        break;
+    case MPV_EVENT_PROPERTY_CHANGE: {
+        const auto* p = static_cast<const mpv_event_property*>(e.data);
+        const bool has = p->format != MPV_FORMAT_NONE && p->data;
+        switch (e.reply_userdata) {
+        case TimePos:
+            timePos_ = has ? *static_cast<double*>(p->data) : 0.0;
+            if (has) emit timeChanged(timePos_);
+            break;
+        case Duration:
+            if (has) duration_ = *static_cast<double*>(p->data);
+            break;
+        case Pause:
+            paused_ = has && *static_cast<int*>(p->data);
+            updateRate();
+            break;
+        case Speed:
+            if (has) speed_ = *static_cast<double*>(p->data);
+            updateRate();
+            break;
+        case Direction:
+            backward_ = has && !qstrcmp(*static_cast<char**>(p->data), "backward");
+            updateRate();
+            break;
+        case Eof: {
+            const bool eof = has && *static_cast<int*>(p->data);
+            const bool reached = eof && !eof_;
+            eof_ = eof;
+            if (reached && loaded_ && !backward_) emit endReached();
+            break;
+        }
+        case DisplayWidth:
+            displaySize_.setWidth(has ? int(*static_cast<int64_t*>(p->data)) : 0);
+            renderFrame();
+            break;
+        case DisplayHeight:
+            displaySize_.setHeight(has ? int(*static_cast<int64_t*>(p->data)) : 0);
+            renderFrame();
+            break;
+        }
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+void MpvPlayer::handleFileLoaded() {
+    mpv_node tracks;
+    bool anyVideo = false;
+    if (mpv_get_property(mpv_, "track-list", MPV_FORMAT_NODE, &tracks) >= 0) {
+        videoSize_ = nodeTrackSize(tracks, &anyVideo);
+        mpv_free_node_contents(&tracks);
+    }
+    double d = 0;
+    if (mpv_get_property(mpv_, "duration", MPV_FORMAT_DOUBLE, &d) >= 0) duration_ = d;
+    loaded_ = true;
+    hasVideo_ = anyVideo;
+    emit loaded(anyVideo);
+}
+
+void MpvPlayer::updateRate() {
+    rate_ = paused_ ? 0.0f : float(speed_) * (backward_ ? -1.0f : 1.0f);
+    if (rate_ == reportedRate_) return;
+    reportedRate_ = rate_;
+    emit rateChanged(rate_);
+}
+
+void MpvPlayer::renderFrame() {
+    if (!render_) return;
+    const bool newFrame = mpv_render_context_update(render_) & MPV_RENDER_UPDATE_FRAME;
+    if (!newFrame && !(fbo_ && fbo_->size() != displaySize_)) return;
+    if (displaySize_.isEmpty()) return;
+    ScopedCurrent current(gl_.get(), surface_.get());
+    if (!current.ok()) return;
+    QOpenGLFunctions* f = gl_->functions();
+    if (!fbo_ || fbo_->size() != displaySize_) {
+        fbo_ = std::make_unique<QOpenGLFramebufferObject>(displaySize_);
+        // Views are usually smaller than the video: filter when scaling down.
+        f->glBindTexture(GL_TEXTURE_2D, fbo_->texture());
+        f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+        f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+        f->glBindTexture(GL_TEXTURE_2D, 0);
+    }
+    mpv_opengl_fbo target{int(fbo_->handle()), displaySize_.width(), displaySize_.height(), 0};
+    int flip = 0;
+    mpv_render_param params[] = {{MPV_RENDER_PARAM_OPENGL_FBO, &target},
+                                 {MPV_RENDER_PARAM_FLIP_Y, &flip},
+                                 {MPV_RENDER_PARAM_INVALID, nullptr}};
+    mpv_render_context_render(render_, params);
+    // The texture is read by the widgets' contexts next.
+    f->glFlush();
+    const bool first = !hasFrame_;
+    hasFrame_ = true;
+    if (first) emit firstFrameRendered();
+    emit frameRendered();
+}
+
+}  // namespace tarvik

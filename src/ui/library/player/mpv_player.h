@@ -1,0 +1,111 @@
+#pragma once
+// One libmpv player. It draws into a texture of its own GL context, shared
+// with every widget's context, so a picture can move from one widget to
+// another (front/rear swap, full screen) without reloading or re-creating
+// the decoder. All mpv calls made from the interface thread are asynchronous;
+// mpv's events arrive on the Qt event loop.
+
+#include <QObject>
+#include <QSize>
+#include <QString>
+#include <deque>
+#include <memory>
+
+class QOffscreenSurface;
+class QOpenGLContext;
+class QOpenGLFramebufferObject;
+struct mpv_handle;
+struct mpv_render_context;
+struct mpv_event;
+
+namespace tarvik {
+
+class MpvPlayer : public QObject {
+    Q_OBJECT
+public:
+    explicit MpvPlayer(QObject* parent = nullptr);
+    ~MpvPlayer() override;
+
+    // False when libmpv could not be started at all.
+    bool isValid() const { return mpv_ != nullptr; }
+    void load(const QString& path);
+    // Stops everything and releases mpv and the GL objects; the object can
+    // then be deleted later without waiting for mpv's threads to end.
+    void shutdown();
+
+    // 0 pauses; 1 plays; other values play faster, backwards when negative.
+    void setRate(float rate);
+    float rate() const { return rate_; }
+    void seekExact(double seconds);
+    void frameStep();
+    void frameBackStep();
+    void setVolume(float volume);  // 0..1
+    float volume() const { return volume_; }
+    void setMuted(bool muted);
+    bool isMuted() const { return muted_; }
+
+    bool isLoaded() const { return loaded_; }
+    bool hasVideo() const { return hasVideo_; }
+    bool isEofReached() const { return eof_; }
+    double timePos() const { return timePos_; }
+    double duration() const { return duration_; }
+    // Coded size of the first video track, known once loaded.
+    QSize videoSize() const { return videoSize_; }
+    QString path() const { return path_; }
+
+    // The latest picture; 0 until the first frame was drawn.
+    unsigned textureId() const;
+    QSize textureSize() const;
+
+signals:
+    void loaded(bool hasVideo);
+    void failed();
+    void rateChanged(float rate);
+    void timeChanged(double seconds);
+    void seeked();
+    void endReached();
+    void frameRendered();
+    void firstFrameRendered();
+
+private:
+    Q_INVOKABLE void processEvents();
+    Q_INVOKABLE void renderFrame();
+    void handleEvent(const mpv_event& event);
+    void handleFileLoaded();
+    void updateRate();
+    bool initGl();
+    void command(std::initializer_list<const char*> args);
+    static void onWakeup(void* self);
+    static void onRenderUpdate(void* self);
+
+    mpv_handle* mpv_ = nullptr;
+    mpv_render_context* render_ = nullptr;
+    std::unique_ptr<QOpenGLContext> gl_;
+    std::unique_ptr<QOffscreenSurface> surface_;
+    std::unique_ptr<QOpenGLFramebufferObject> fbo_;
+    bool hasFrame_ = false;
+
+    QString path_;
+    // mpv drops a frame step that arrives while a seek is still decoding
+    // towards its target, so steps wait for the seek to finish.
+    enum class Step { Forward, Backward };
+    void runStep(Step step);
+    bool seeking_ = false;
+    std::deque<Step> pendingSteps_;
+    bool loaded_ = false;
+    bool hasVideo_ = false;
+    bool eof_ = false;
+    bool paused_ = true;
+    bool backward_ = false;
+    double speed_ = 1.0;
+    float rate_ = 0.0f;
+    float reportedRate_ = 0.0f;
+    float volume_ = 1.0f;
+    bool muted_ = false;
+    double timePos_ = 0.0;
+    double duration_ = 0.0;
+    QSize videoSize_;
+    QSize displaySize_;
+};
+
+}  // namespace tarvik

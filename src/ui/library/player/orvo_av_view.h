@@ -1,0 +1,117 @@
+#pragma once
+// The view that shows one clip: front or rear camera. It reduces libmpv's
+// notifications to one status value, one rate and a time tick every 0.1 s,
+// and reports them to its delegate. A new clip is loaded with reset()
+// followed by setFileName(path).
+
+#include <QImage>
+#include <QString>
+#include <QUrl>
+
+#include "ui/library/player/orvo_av_view_delegate.h"
+#include "ui/library/player/orvo_av_view_status.h"
+#include "ui/library/player/video_surface.h"
+
+class QLabel;
+class QProgressBar;
+class QTimer;
+
+namespace tarvik {
+
+class MpvPlayer;
+
+class OrvoAVView : public VideoSurface {
+    Q_OBJECT
+public:
+    // A clip that is neither playable nor refused by then counts as broken.
+    static constexpr int kLoadTimeoutMs = 30000;
+
+    explicit OrvoAVView(QWidget* parent = nullptr);
+    ~OrvoAVView() override;
+
+    OrvoAVViewDelegate* delegate() const { return delegate_; }
+    void setDelegate(OrvoAVViewDelegate* delegate) { delegate_ = delegate; }
+
+    OrvoAVViewStatus status() const { return status_; }
+    float rate() const { return rate_; }
+    QString fileName() const { return fileName_; }
+    QUrl fileURL() const;
+    bool hasMovie() const;
+
+    // Stores the path, closes a player that still exists (which clears the
+    // stored path again, so the load then fails: reset() first), sets Init
+    // and starts loading when a path was given.
+    void setFileName(const QString& path);
+
+    void play();
+    void pause();
+    void playPauseToggle();
+    void fastForward();
+    void rewind();
+    // Exactly one frame; the player is paused afterwards. The new time
+    // arrives with the next orvoAVViewDidUpdateTime.
+    void stepForward();
+    void stepBackward();
+
+    double currentTime() const;
+    // Lands on the nearest whole second.
+    void setCurrentTime(double seconds);
+    double duration() const;
+    float volume() const;
+    void setVolume(float volume);
+    bool isMuted() const;
+    void setMuted(bool muted);
+    bool upsideDown() const { return upsideDown_; }
+    void setUpsideDown(bool upsideDown);
+    // Size of the clip's picture; 1920x1080 when it has none.
+    QSize naturalSize() const;
+
+    // The clip's first picture at the clip's own size; null without a clip.
+    QImage snapshot() const;
+
+    // Exchanges clip and player with the other view without reloading;
+    // status, upside-down, rate and delegate stay with each view.
+    void swapPlayerItemWith(OrvoAVView* other);
+
+    void close();
+    void reset() { close(); }
+
+    // The player whose pictures this view shows (for a full-screen mirror).
+    MpvPlayer* player() const { return player_; }
+
+signals:
+    // The shown player or the way it is drawn changed.
+    void pictureChanged();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void prepareAsset();
+    void setUpPlaybackOfAsset(bool hasVideo);
+    void rebuildObservers();
+    void removeObservers();
+    void onMovieEnd();
+    void onTime(double seconds, bool jumped);
+    void stopLoadingAnimationAndHandleError(bool error);
+    void setStatus(OrvoAVViewStatus status);
+    bool isAtEnd() const;
+    void requestRate(float rate);
+    void layoutOverlays();
+
+    OrvoAVViewDelegate* delegate_ = nullptr;
+    OrvoAVViewStatus status_ = OrvoAVViewStatusInit;
+    bool upsideDown_ = false;
+    float rate_ = 0.0f;
+    QString fileName_;
+    MpvPlayer* player_ = nullptr;
+    QList<QMetaObject::Connection> observers_;
+    long long lastTick_ = -1;
+    float requestedRate_ = 0.0f;
+    QProgressBar* loadingSpinner_ = nullptr;
+    QLabel* noVideoView_ = nullptr;
+    QTimer* loadWatchdog_ = nullptr;
+};
+
+}  // namespace tarvik

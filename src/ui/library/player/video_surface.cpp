@@ -1,0 +1,69 @@
+#include "ui/library/player/video_surface.h"
+
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+#include <QOpenGLTextureBlitter>
+
+#include "ui/library/player/mpv_player.h"
+
+namespace tarvik {
+
+VideoSurface::VideoSurface(QWidget* parent) : QOpenGLWidget(parent) {}
+
+MpvPlayer* VideoSurface::shownPlayer() const { return player_; }
+
+VideoSurface::~VideoSurface() {
+    makeCurrent();
+    blitter_.reset();
+    doneCurrent();
+}
+
+void VideoSurface::releaseGl() {
+    makeCurrent();
+    blitter_.reset();
+    doneCurrent();
+}
+
+void VideoSurface::showPlayer(MpvPlayer* player) {
+    if (player_ == player) return;
+    disconnect(frameConnection_);
+    player_ = player;
+    if (player) frameConnection_ = connect(player, &MpvPlayer::frameRendered, this, qOverload<>(&QWidget::update));
+    update();
+}
+
+void VideoSurface::setPictureVisible(bool visible) {
+    pictureVisible_ = visible;
+    update();
+}
+
+void VideoSurface::setPictureFlipped(bool flipped) {
+    flipped_ = flipped;
+    update();
+}
+
+void VideoSurface::initializeGL() {
+    // Moving the widget to another window (full screen) replaces its context.
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &VideoSurface::releaseGl, Qt::UniqueConnection);
+}
+
+void VideoSurface::paintGL() {
+    QOpenGLFunctions* f = context()->functions();
+    f->glClearColor(0, 0, 0, 1);
+    f->glClear(GL_COLOR_BUFFER_BIT);
+    if (!pictureVisible_ || !player_ || !player_->textureId()) return;
+    if (!blitter_) {
+        blitter_ = std::make_unique<QOpenGLTextureBlitter>();
+        if (!blitter_->create()) return;
+    }
+    const QSize out = size() * devicePixelRatioF();
+    const QSize fitted = player_->textureSize().scaled(out, Qt::KeepAspectRatio);
+    const QRect target(QPoint((out.width() - fitted.width()) / 2, (out.height() - fitted.height()) / 2), fitted);
+    // mpv draws an FBO top row first; flipping shows it the other way up.
+    const auto origin = flipped_ ? QOpenGLTextureBlitter::OriginBottomLeft : QOpenGLTextureBlitter::OriginTopLeft;
+    blitter_->bind();
+    blitter_->blit(player_->textureId(), QOpenGLTextureBlitter::targetTransform(target, QRect(QPoint(), out)), origin);
+    blitter_->release();
+}
+
+}  // namespace tarvik

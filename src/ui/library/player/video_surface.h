@@ -1,0 +1,42 @@
+#pragma once
+// A GL widget that shows the pictures of one MpvPlayer, fitted into the
+// widget with black bars, optionally flipped vertically.
+
+#include <QOpenGLWidget>
+#include <QPointer>
+#include <memory>
+
+class QOpenGLTextureBlitter;
+
+namespace tarvik {
+
+class MpvPlayer;
+
+class VideoSurface : public QOpenGLWidget {
+    Q_OBJECT
+public:
+    explicit VideoSurface(QWidget* parent = nullptr);
+    ~VideoSurface() override;
+
+protected:
+    void showPlayer(MpvPlayer* player);
+    MpvPlayer* shownPlayer() const;
+    // Hidden pictures leave the widget black (while a clip is still loading).
+    void setPictureVisible(bool visible);
+    bool pictureVisible() const { return pictureVisible_; }
+    void setPictureFlipped(bool flipped);
+
+    void initializeGL() override;
+    void paintGL() override;
+
+private:
+    void releaseGl();
+
+    QPointer<MpvPlayer> player_;
+    QMetaObject::Connection frameConnection_;
+    std::unique_ptr<QOpenGLTextureBlitter> blitter_;
+    bool pictureVisible_ = false;
+    bool flipped_ = false;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,371 @@
+// Player views on the real libmpv, with clips made by the real ffmpeg.
+// Needs an X server with OpenGL: xvfb-run -a ./test_orvo_av_view
+
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+#include <QtTest>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+
+#include "cardgen/video_maker.h"
+#include "core/library/conversion/utils.h"
+#include "core/util/process_runner.h"
+#include "ui/library/player/mpv_player.h"
+#include "ui/library/player/orvo_av_view.h"
+#include "ui/library/player/orvo_qt_movie_view.h"
+
+using namespace tarvik;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kWaitMs = 20000;
+
+struct Recorder : OrvoAVViewDelegate {
+    QList<QPair<OrvoAVView*, OrvoAVViewStatus>> statuses;
+    QList<QPair<OrvoAVView*, float>> rates;
+    QList<QPair<OrvoAVView*, double>> times;
+    QList<OrvoAVView*> ends, fullscreens;
+    void orvoAVViewDidUpdateStatus(OrvoAVView* v, OrvoAVViewStatus s) override { statuses << qMakePair(v, s); }
+    void orvoAVViewDidUpdateRate(OrvoAVView* v, float r) override { rates << qMakePair(v, r); }
+    void orvoAVViewDidUpdateTime(OrvoAVView* v, double t) override { times << qMakePair(v, t); }
+    void orvoAVViewDidPlayToEndTime(OrvoAVView* v) override { ends << v; }
+    void orvoAVViewDidRequestFullscreen(OrvoAVView* v) override { fullscreens << v; }
+    double lastTime(OrvoAVView* v) const {
+        for (auto it = times.rbegin(); it != times.rend(); ++it)
+            if (it->first == v) return it->second;
+        return -1;
+    }
+    float lastRate(OrvoAVView* v) const {
+        for (auto it = rates.rbegin(); it != rates.rend(); ++it)
+            if (it->first == v) return it->second;
+        return -100;
+    }
+    OrvoAVViewStatus lastStatus(OrvoAVView* v) const {
+        for (auto it = statuses.rbegin(); it != statuses.rend(); ++it)
+            if (it->first == v) return it->second;
+        return OrvoAVViewStatusUnknown;
+    }
+};
+
+struct MovieRecorder : OrvoQTMovieViewDelegate {
+    QList<QObject*> fullscreenRequests;
+    int shown = 0, hidden = 0;
+    void fullscreenButtonTouched(QObject* sender) override { fullscreenRequests << sender; }
+    void showFullscreenMovieControlWindow() override { ++shown; }
+    void hideFullscreenMovieControlWindow() override { ++hidden; }
+};
+
+bool ffmpeg(const std::vector<std::string>& args) {
+    std::vector<std::string> a = {"-v", "error", "-y"};
+    a.insert(a.end(), args.begin(), args.end());
+    return ProcessRunner::run(Utils::GetFFMPEGPath(), a, std::chrono::minutes(2)).exitCode == 0;
+}
+
+}  // namespace
+
+class TestOrvoAVView : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir dir_;
+    QString front_, rear_, halves_, audioOnly_, empty_, truncated_, brokenAvi_;
+    QWidget* window_ = nullptr;
+    OrvoAVView* big_ = nullptr;
+    OrvoAVView* small_ = nullptr;
+    Recorder rec_;
+
+    QString path(const char* name) const { return dir_.filePath(name); }
+
+    void load(OrvoAVView* v, const QString& file, OrvoAVViewStatus expected = OrvoAVViewStatusPrepared) {
+        v->reset();
+        rec_.statuses.clear();  // only what this load reports counts
+        v->setFileName(file);
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastStatus(v), expected, kWaitMs);
+    }
+
+    QString rateHistory() const {
+        QStringList out;
+        for (const auto& r : rec_.rates) out << QString::number(r.second);
+        return out.join(' ');
+    }
+
+    QImage grab(OrvoAVView* v) {
+        QTest::qWait(200);  // let the picture reach the widget
+        return v->grabFramebuffer();
+    }
+
+private slots:
+    void initTestCase() {
+        QVERIFY(dir_.isValid());
+        cardgen::VideoSpec spec;
+        spec.width = 352;
+        spec.height = 208;
+        spec.fps = 25;
+        spec.seconds = 4.0;
+        spec.audio = true;
+        front_ = path("front.mp4");
+        QVERIFY(cardgen::makeVideo(spec, front_.toStdString()));
+        spec.pattern = "smptebars";
+        spec.audio = false;
+        rear_ = path("rear.mp4");
+        QVERIFY(cardgen::makeVideo(spec, rear_.toStdString()));
+        // Red above, blue below: shows which way up the picture is drawn.
+        halves_ = path("halves.mp4");
+        QVERIFY(ffmpeg({"-f", "lavfi", "-i", "color=c=red:s=320x180:r=25:d=2,drawbox=y=90:h=90:c=blue:t=fill",
+                        "-c:v", "libx264", "-pix_fmt", "yuv420p", halves_.toStdString()}));
+        audioOnly_ = path("sound.mp4");
+        QVERIFY(ffmpeg({"-f", "lavfi", "-i", "sine=duration=2", "-c:a", "aac", audioOnly_.toStdString()}));
+        empty_ = path("empty.mp4");
+        std::ofstream(empty_.toStdString());
+        truncated_ = path("truncated.mp4");
+        fs::copy_file(front_.toStdString(), truncated_.toStdString());
+        fs::resize_file(truncated_.toStdString(), fs::file_size(truncated_.toStdString()) / 3);
+        // An AVI whose index points nowhere.
+        brokenAvi_ = path("broken.avi");
+        spec.seconds = 2.0;
+        QVERIFY(cardgen::makeVideo(spec, brokenAvi_.toStdString()));
+        std::fstream f(brokenAvi_.toStdString(), std::ios::in | std::ios::out | std::ios::binary);
+        std::string bytes((std::istreambuf_iterator<char>(f)), {});
+        const auto idx = bytes.rfind("idx1");
+        QVERIFY(idx != std::string::npos);
+        f.seekp(static_cast<std::streamoff>(idx + 8));
+        const std::string garbage(bytes.size() - idx - 8, '\xee');
+        f.write(garbage.data(), static_cast<std::streamsize>(garbage.size()));
+        f.close();
+
+        window_ = new QWidget;
+        auto* layout = new QVBoxLayout(window_);
+        big_ = new OrvoAVView;
+        small_ = new OrvoAVView;
+        layout->addWidget(big_, 2);
+        layout->addWidget(small_, 1);
+        big_->setDelegate(&rec_);
+        small_->setDelegate(&rec_);
+        window_->resize(480, 480);
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window_));
+    }
+
+    void cleanupTestCase() { delete window_; }
+
+    void statusNamesAndEmptyView() {
+        QCOMPARE(orvoAVViewStatusName(OrvoAVViewStatusPrepared), "OrvoAVViewStatusPrepared");
+        QCOMPARE(orvoAVViewStatusName(7), "OrvoAVViewStatusError");
+        QCOMPARE(orvoAVViewStatusName(8), "Unknown");
+        OrvoAVView view;
+        QCOMPARE(view.status(), OrvoAVViewStatusInit);
+        QVERIFY(!view.hasMovie());
+        QCOMPARE(view.currentTime(), 0.0);
+        QCOMPARE(view.duration(), 0.0);
+        QVERIFY(view.snapshot().isNull());
+        QVERIFY(view.fileURL().isEmpty());
+        view.play();  // nothing loaded: nothing happens
+        view.stepForward();
+    }
+
+    void loadsPlaysAndTicks() {
+        rec_.statuses.clear();
+        big_->setFileName(front_);
+        // Status changes arrive later, in order, never inside the call.
+        QVERIFY(rec_.statuses.isEmpty());
+        QCOMPARE(big_->status(), OrvoAVViewStatusLoading);
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastStatus(big_), OrvoAVViewStatusPrepared, kWaitMs);
+        QCOMPARE(rec_.statuses.first().second, OrvoAVViewStatusInit);
+        QCOMPARE(rec_.statuses.at(1).second, OrvoAVViewStatusLoading);
+        QVERIFY(big_->hasMovie());
+        QCOMPARE(big_->fileURL(), QUrl::fromLocalFile(front_));
+        QVERIFY(std::abs(big_->duration() - 4.0) < 0.05);
+        QCOMPARE(big_->naturalSize(), QSize(352, 208));
+
+        rec_.times.clear();
+        big_->play();
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastRate(big_), 1.0f, kWaitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(rec_.lastTime(big_) > 1.0, kWaitMs);
+        const auto playing = rec_.times;
+        big_->pause();
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastRate(big_), 0.0f, kWaitMs);
+        // While playing, at most one tick per tenth of a second of playing time.
+        QList<long long> ticks;
+        for (const auto& t : playing) ticks << static_cast<long long>(std::floor(t.second * 10 + 1e-6));
+        for (int i = 1; i < ticks.size(); ++i) QVERIFY2(ticks[i] != ticks[i - 1], "two ticks in one tenth");
+        QVERIFY(ticks.size() >= 8);
+    }
+
+    void newFileWithoutResetFails() {
+        // The stored name is cleared by closing the old player: callers reset first.
+        load(big_, front_);
+        big_->setFileName(rear_);
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastStatus(big_), OrvoAVViewStatusError, kWaitMs);
+        QVERIFY(!big_->hasMovie());
+        big_->reset();
+        QTRY_COMPARE(rec_.lastStatus(big_), OrvoAVViewStatusInit);
+        QVERIFY(big_->fileName().isEmpty());
+    }
+
+    void rateArithmetic() {
+        load(big_, front_);
+        rec_.rates.clear();
+        big_->setCurrentTime(3.0);
+        big_->play();
+        big_->fastForward();
+        QCOMPARE(big_->player()->rate(), 2.0f);
+        big_->fastForward();
+        QCOMPARE(big_->player()->rate(), 4.0f);
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastRate(big_), 4.0f, kWaitMs);
+        QCOMPARE(big_->rate(), 4.0f);
+        big_->playPauseToggle();  // fast: back to normal play, not a pause
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastRate(big_), 1.0f, kWaitMs);
+        big_->setCurrentTime(3.0);
+        big_->rewind();
+        QCOMPARE(big_->player()->rate(), -2.0f);
+        big_->rewind();
+        QCOMPARE(big_->player()->rate(), -4.0f);
+        // Backwards it soon reaches the start and stops there, so look at the history.
+        QTRY_VERIFY2_WITH_TIMEOUT(rec_.rates.contains(qMakePair(big_, -4.0f)), qPrintable(rateHistory()), kWaitMs);
+        big_->playPauseToggle();
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastRate(big_), 1.0f, kWaitMs);
+        big_->playPauseToggle();
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastRate(big_), 0.0f, kWaitMs);
+    }
+
+    void seeksAndFrameSteps() {
+        load(big_, front_);
+        const double frame = 1.0 / 25;
+        big_->setCurrentTime(2.4);  // whole seconds only
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(rec_.lastTime(big_) - 2.0) < 1e-3, kWaitMs);
+        big_->setCurrentTime(0.6);
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(rec_.lastTime(big_) - 1.0) < 1e-3, kWaitMs);
+        for (int n : {1, 2, 3}) {
+            big_->stepForward();
+            QTRY_VERIFY2_WITH_TIMEOUT(std::abs(rec_.lastTime(big_) - (1.0 + n * frame)) < 1e-3,
+                                      qPrintable(QString::number(rec_.lastTime(big_), 'f', 4)), kWaitMs);
+        }
+        for (int n : {2, 1, 0, -1}) {
+            big_->stepBackward();
+            QTRY_VERIFY2_WITH_TIMEOUT(std::abs(rec_.lastTime(big_) - (1.0 + n * frame)) < 1e-3,
+                                      qPrintable(QString::number(rec_.lastTime(big_), 'f', 4)), kWaitMs);
+        }
+        QCOMPARE(big_->currentTime(), rec_.lastTime(big_));
+        QCOMPARE(rec_.lastRate(big_), 0.0f);  // steps leave the player paused
+    }
+
+    void endOfItemAndReplay() {
+        load(big_, front_);
+        rec_.ends.clear();
+        big_->setCurrentTime(3.0);
+        big_->play();
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.ends.size(), 1, kWaitMs);
+        QCOMPARE(rec_.ends.first(), big_);
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastRate(big_), 0.0f, kWaitMs);
+        rec_.times.clear();
+        big_->play();  // at the end: starts over
+        QTRY_VERIFY_WITH_TIMEOUT(!rec_.times.isEmpty() && rec_.lastTime(big_) < 1.0, kWaitMs);
+        big_->pause();
+    }
+
+    void swapTwiceRestores() {
+        load(big_, front_);
+        load(small_, rear_);
+        MpvPlayer* bigPlayer = big_->player();
+        MpvPlayer* smallPlayer = small_->player();
+        big_->setUpsideDown(true);
+        big_->swapPlayerItemWith(small_);
+        QCOMPARE(big_->fileName(), rear_);
+        QCOMPARE(small_->fileName(), front_);
+        QCOMPARE(big_->player(), smallPlayer);
+        QCOMPARE(small_->player(), bigPlayer);
+        QVERIFY(big_->upsideDown());  // stays with the view
+        QVERIFY(!small_->upsideDown());
+        QCOMPARE(big_->status(), OrvoAVViewStatusPrepared);
+        // The moved player now reports as the view it moved to.
+        rec_.times.clear();
+        big_->setCurrentTime(2.0);
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(rec_.lastTime(big_) - 2.0) < 1e-3, kWaitMs);
+        QCOMPARE(rec_.lastTime(small_), -1.0);
+        QCOMPARE(grab(big_).pixelColor(big_->width() / 2, 4) == grab(small_).pixelColor(small_->width() / 2, 4),
+                 false);
+        big_->swapPlayerItemWith(small_);
+        QCOMPARE(big_->fileName(), front_);
+        QCOMPARE(small_->fileName(), rear_);
+        QCOMPARE(big_->player(), bigPlayer);
+        QCOMPARE(small_->player(), smallPlayer);
+        big_->setUpsideDown(false);
+    }
+
+    void pictureOrientationAndUpsideDown() {
+        load(big_, halves_);
+        QTRY_VERIFY_WITH_TIMEOUT(grab(big_).pixelColor(big_->width() / 2, big_->height() / 2 - 20).red() > 150,
+                                 kWaitMs);
+        QImage upright = grab(big_);
+        const int cx = upright.width() / 2, cy = upright.height() / 2;
+        QVERIFY(upright.pixelColor(cx, cy - 20).red() > 150);
+        QVERIFY(upright.pixelColor(cx, cy + 20).blue() > 150);
+        big_->setUpsideDown(true);
+        QImage flipped = grab(big_);
+        QVERIFY(flipped.pixelColor(cx, cy - 20).blue() > 150);
+        QVERIFY(flipped.pixelColor(cx, cy + 20).red() > 150);
+        big_->setUpsideDown(false);
+    }
+
+    void snapshotIsThePictureAtClipSize() {
+        load(small_, front_);
+        small_->setCurrentTime(3.0);
+        const QImage still = small_->snapshot();
+        QCOMPARE(still.size(), QSize(352, 208));
+        const QString png = path("still.png");
+        QVERIFY(still.save(png, "PNG"));
+        QImage back(png, "PNG");
+        QCOMPARE(back.size(), QSize(352, 208));
+        QVERIFY(back.pixelColor(176, 104) != QColor(Qt::black) || back.pixelColor(10, 10) != QColor(Qt::black));
+    }
+
+    void badInputEndsInErrorAndNextClipPlays() {
+        struct Bad { QString file; bool mayPlay; };
+        for (const Bad& bad : {Bad{audioOnly_, false}, Bad{empty_, false}, Bad{truncated_, false},
+                               Bad{path("missing.mp4"), false}, Bad{brokenAvi_, true}}) {
+            big_->reset();
+            big_->setFileName(bad.file);
+            QTRY_VERIFY2_WITH_TIMEOUT(rec_.lastStatus(big_) == OrvoAVViewStatusError ||
+                                          (bad.mayPlay && rec_.lastStatus(big_) == OrvoAVViewStatusPrepared),
+                                      qPrintable(bad.file), kWaitMs);
+            if (!bad.mayPlay) QVERIFY(!big_->hasMovie());
+            QVERIFY(big_->snapshot().isNull() || bad.mayPlay);
+            load(big_, front_);
+            big_->play();
+            QTRY_VERIFY_WITH_TIMEOUT(rec_.lastTime(big_) > 0.3, kWaitMs);
+            big_->pause();
+        }
+        load(big_, audioOnly_, OrvoAVViewStatusError);
+        auto* noVideo = big_->findChild<QLabel*>();
+        QVERIFY(noVideo && noVideo->isVisible());
+    }
+
+    void mouseRequests() {
+        rec_.fullscreens.clear();
+        QTest::mouseClick(big_, Qt::RightButton);
+        QCOMPARE(rec_.fullscreens, QList<OrvoAVView*>{big_});
+
+        load(big_, halves_);
+        OrvoQTMovieView movie;
+        MovieRecorder mr;
+        movie.setDelegate(&mr);
+        movie.setMovieSource(big_);
+        movie.resize(320, 180);
+        movie.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&movie));
+        QTRY_VERIFY_WITH_TIMEOUT(movie.grabFramebuffer().pixelColor(160, 40).red() > 150, kWaitMs);
+        QTest::mouseClick(&movie, Qt::RightButton);
+        QCOMPARE(mr.fullscreenRequests, QList<QObject*>{&movie});
+        QTest::mouseMove(&movie, QPoint(160, 10));   // high up: more than 3/4 above the bottom
+        QTRY_COMPARE(mr.shown, 1);
+        QTest::mouseMove(&movie, QPoint(160, 170));
+        QTRY_COMPARE(mr.hidden, 1);
+        big_->reset();  // the mirror follows the view and goes black
+        QTRY_VERIFY(movie.grabFramebuffer().pixelColor(160, 40).red() < 40);
+    }
+};
+
+QTEST_MAIN(TestOrvoAVView)
+#include "test_orvo_av_view.moc"
