@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include "cardgen/video_maker.h"
 #include "core/library/conversion/utils.h"
 #include "core/util/process_runner.h"
 #include "ui/library/player/mpv_player.h"
@@ -23,6 +22,14 @@ namespace {
 
 constexpr int kWaitMs = 20000;
 
+// Last value a view reported in a list of (view, value) pairs, or a fallback.
+template <typename T>
+T last(const QList<QPair<OrvoAVView*, T>>& list, OrvoAVView* v, T none) {
+    for (auto it = list.rbegin(); it != list.rend(); ++it)
+        if (it->first == v) return it->second;
+    return none;
+}
+
 struct Recorder : OrvoAVViewDelegate {
     QList<QPair<OrvoAVView*, OrvoAVViewStatus>> statuses;
     QList<QPair<OrvoAVView*, float>> rates;
@@ -33,21 +40,9 @@ struct Recorder : OrvoAVViewDelegate {
     void orvoAVViewDidUpdateTime(OrvoAVView* v, double t) override { times << qMakePair(v, t); }
     void orvoAVViewDidPlayToEndTime(OrvoAVView* v) override { ends << v; }
     void orvoAVViewDidRequestFullscreen(OrvoAVView* v) override { fullscreens << v; }
-    double lastTime(OrvoAVView* v) const {
-        for (auto it = times.rbegin(); it != times.rend(); ++it)
-            if (it->first == v) return it->second;
-        return -1;
-    }
-    float lastRate(OrvoAVView* v) const {
-        for (auto it = rates.rbegin(); it != rates.rend(); ++it)
-            if (it->first == v) return it->second;
-        return -100;
-    }
-    OrvoAVViewStatus lastStatus(OrvoAVView* v) const {
-        for (auto it = statuses.rbegin(); it != statuses.rend(); ++it)
-            if (it->first == v) return it->second;
-        return OrvoAVViewStatusUnknown;
-    }
+    double lastTime(OrvoAVView* v) const { return last(times, v, -1.0); }
+    float lastRate(OrvoAVView* v) const { return last(rates, v, -100.0f); }
+    OrvoAVViewStatus lastStatus(OrvoAVView* v) const { return last(statuses, v, OrvoAVViewStatusUnknown); }
 };
 
 struct MovieRecorder : OrvoQTMovieViewDelegate {
@@ -85,12 +80,6 @@ class TestOrvoAVView : public QObject {
         QTRY_COMPARE_WITH_TIMEOUT(rec_.lastStatus(v), expected, kWaitMs);
     }
 
-    QString rateHistory() const {
-        QStringList out;
-        for (const auto& r : rec_.rates) out << QString::number(r.second);
-        return out.join(' ');
-    }
-
     QImage grab(OrvoAVView* v) {
         QTest::qWait(200);  // let the picture reach the widget
         return v->grabFramebuffer();
@@ -99,41 +88,31 @@ class TestOrvoAVView : public QObject {
 private slots:
     void initTestCase() {
         QVERIFY(dir_.isValid());
-        cardgen::VideoSpec spec;
-        spec.width = 352;
-        spec.height = 208;
-        spec.fps = 25;
-        spec.seconds = 4.0;
-        spec.audio = true;
-        front_ = path("front.mp4");
-        QVERIFY(cardgen::makeVideo(spec, front_.toStdString()));
-        spec.pattern = "smptebars";
-        spec.audio = false;
-        rear_ = path("rear.mp4");
-        QVERIFY(cardgen::makeVideo(spec, rear_.toStdString()));
+        auto make = [this](const char* name, std::vector<std::string> args) {
+            args.push_back(path(name).toStdString());
+            return ffmpeg(args) ? path(name) : QString();
+        };
+        const std::vector<std::string> h264 = {"-c:v", "libx264", "-pix_fmt", "yuv420p", "-g", "25"};
+        auto with = [&h264](std::vector<std::string> a) { a.insert(a.end(), h264.begin(), h264.end()); return a; };
+        front_ = make("front.mp4", with({"-f", "lavfi", "-i", "testsrc2=s=352x208:r=25:d=4", "-f", "lavfi", "-i",
+                                         "sine=d=4", "-c:a", "aac"}));
+        rear_ = make("rear.mp4", with({"-f", "lavfi", "-i", "smptebars=s=352x208:r=25:d=4"}));
         // Red above, blue below: shows which way up the picture is drawn.
-        halves_ = path("halves.mp4");
-        QVERIFY(ffmpeg({"-f", "lavfi", "-i", "color=c=red:s=320x180:r=25:d=2,drawbox=y=90:h=90:c=blue:t=fill",
-                        "-c:v", "libx264", "-pix_fmt", "yuv420p", halves_.toStdString()}));
-        audioOnly_ = path("sound.mp4");
-        QVERIFY(ffmpeg({"-f", "lavfi", "-i", "sine=duration=2", "-c:a", "aac", audioOnly_.toStdString()}));
+        halves_ = make("halves.mp4", with({"-f", "lavfi", "-i", "color=c=red:s=320x180:r=25:d=2,"
+                                                                  "drawbox=y=90:h=90:c=blue:t=fill"}));
+        audioOnly_ = make("sound.mp4", {"-f", "lavfi", "-i", "sine=d=2", "-c:a", "aac"});
+        brokenAvi_ = make("broken.avi", with({"-f", "lavfi", "-i", "testsrc2=s=352x208:r=25:d=2"}));
+        QVERIFY(!front_.isEmpty() && !rear_.isEmpty() && !halves_.isEmpty() && !audioOnly_.isEmpty());
+        // The AVI's index is cut off in the middle of its entries.
+        std::ifstream in(brokenAvi_.toStdString(), std::ios::binary);
+        const std::string bytes((std::istreambuf_iterator<char>(in)), {});
+        QVERIFY(bytes.rfind("idx1") != std::string::npos);
+        fs::resize_file(brokenAvi_.toStdString(), bytes.rfind("idx1") + 8 + 24);
         empty_ = path("empty.mp4");
         std::ofstream(empty_.toStdString());
         truncated_ = path("truncated.mp4");
         fs::copy_file(front_.toStdString(), truncated_.toStdString());
         fs::resize_file(truncated_.toStdString(), fs::file_size(truncated_.toStdString()) / 3);
-        // An AVI whose index points nowhere.
-        brokenAvi_ = path("broken.avi");
-        spec.seconds = 2.0;
-        QVERIFY(cardgen::makeVideo(spec, brokenAvi_.toStdString()));
-        std::fstream f(brokenAvi_.toStdString(), std::ios::in | std::ios::out | std::ios::binary);
-        std::string bytes((std::istreambuf_iterator<char>(f)), {});
-        const auto idx = bytes.rfind("idx1");
-        QVERIFY(idx != std::string::npos);
-        f.seekp(static_cast<std::streamoff>(idx + 8));
-        const std::string garbage(bytes.size() - idx - 8, '\xee');
-        f.write(garbage.data(), static_cast<std::streamsize>(garbage.size()));
-        f.close();
 
         window_ = new QWidget;
         auto* layout = new QVBoxLayout(window_);
@@ -151,18 +130,14 @@ private slots:
     void cleanupTestCase() { delete window_; }
 
     void statusNamesAndEmptyView() {
-        QCOMPARE(orvoAVViewStatusName(OrvoAVViewStatusPrepared), "OrvoAVViewStatusPrepared");
-        QCOMPARE(orvoAVViewStatusName(7), "OrvoAVViewStatusError");
+        QCOMPARE(orvoAVViewStatusName(OrvoAVViewStatusError), "OrvoAVViewStatusError");
         QCOMPARE(orvoAVViewStatusName(8), "Unknown");
         OrvoAVView view;
-        QCOMPARE(view.status(), OrvoAVViewStatusInit);
         QVERIFY(!view.hasMovie());
-        QCOMPARE(view.currentTime(), 0.0);
         QCOMPARE(view.duration(), 0.0);
         QVERIFY(view.snapshot().isNull());
-        QVERIFY(view.fileURL().isEmpty());
-        view.play();  // nothing loaded: nothing happens
-        view.stepForward();
+        view.play();  // nothing loaded: nothing happens, nothing crashes
+        view.stepBackward();
     }
 
     void loadsPlaysAndTicks() {
@@ -175,7 +150,6 @@ private slots:
         QCOMPARE(rec_.statuses.first().second, OrvoAVViewStatusInit);
         QCOMPARE(rec_.statuses.at(1).second, OrvoAVViewStatusLoading);
         QVERIFY(big_->hasMovie());
-        QCOMPARE(big_->fileURL(), QUrl::fromLocalFile(front_));
         QVERIFY(std::abs(big_->duration() - 4.0) < 0.05);
         QCOMPARE(big_->naturalSize(), QSize(352, 208));
 
@@ -191,17 +165,6 @@ private slots:
         for (const auto& t : playing) ticks << static_cast<long long>(std::floor(t.second * 10 + 1e-6));
         for (int i = 1; i < ticks.size(); ++i) QVERIFY2(ticks[i] != ticks[i - 1], "two ticks in one tenth");
         QVERIFY(ticks.size() >= 8);
-    }
-
-    void newFileWithoutResetFails() {
-        // The stored name is cleared by closing the old player: callers reset first.
-        load(big_, front_);
-        big_->setFileName(rear_);
-        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastStatus(big_), OrvoAVViewStatusError, kWaitMs);
-        QVERIFY(!big_->hasMovie());
-        big_->reset();
-        QTRY_COMPARE(rec_.lastStatus(big_), OrvoAVViewStatusInit);
-        QVERIFY(big_->fileName().isEmpty());
     }
 
     void rateArithmetic() {
@@ -223,7 +186,7 @@ private slots:
         big_->rewind();
         QCOMPARE(big_->player()->rate(), -4.0f);
         // Backwards it soon reaches the start and stops there, so look at the history.
-        QTRY_VERIFY2_WITH_TIMEOUT(rec_.rates.contains(qMakePair(big_, -4.0f)), qPrintable(rateHistory()), kWaitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(rec_.rates.contains(qMakePair(big_, -4.0f)), kWaitMs);
         big_->playPauseToggle();
         QTRY_COMPARE_WITH_TIMEOUT(rec_.lastRate(big_), 1.0f, kWaitMs);
         big_->playPauseToggle();
@@ -296,16 +259,12 @@ private slots:
 
     void pictureOrientationAndUpsideDown() {
         load(big_, halves_);
-        QTRY_VERIFY_WITH_TIMEOUT(grab(big_).pixelColor(big_->width() / 2, big_->height() / 2 - 20).red() > 150,
-                                 kWaitMs);
-        QImage upright = grab(big_);
-        const int cx = upright.width() / 2, cy = upright.height() / 2;
-        QVERIFY(upright.pixelColor(cx, cy - 20).red() > 150);
-        QVERIFY(upright.pixelColor(cx, cy + 20).blue() > 150);
+        const int cx = big_->width() / 2, cy = big_->height() / 2;
+        QTRY_VERIFY_WITH_TIMEOUT(grab(big_).pixelColor(cx, cy - 20).red() > 150, kWaitMs);
+        QVERIFY(grab(big_).pixelColor(cx, cy + 20).blue() > 150);
         big_->setUpsideDown(true);
-        QImage flipped = grab(big_);
-        QVERIFY(flipped.pixelColor(cx, cy - 20).blue() > 150);
-        QVERIFY(flipped.pixelColor(cx, cy + 20).red() > 150);
+        const QImage flipped = grab(big_);
+        QVERIFY(flipped.pixelColor(cx, cy - 20).blue() > 150 && flipped.pixelColor(cx, cy + 20).red() > 150);
         big_->setUpsideDown(false);
     }
 
@@ -314,11 +273,9 @@ private slots:
         small_->setCurrentTime(3.0);
         const QImage still = small_->snapshot();
         QCOMPARE(still.size(), QSize(352, 208));
-        const QString png = path("still.png");
-        QVERIFY(still.save(png, "PNG"));
-        QImage back(png, "PNG");
-        QCOMPARE(back.size(), QSize(352, 208));
-        QVERIFY(back.pixelColor(176, 104) != QColor(Qt::black) || back.pixelColor(10, 10) != QColor(Qt::black));
+        QVERIFY(still.pixelColor(176, 104) != QColor(Qt::black));
+        QVERIFY(still.save(path("still.png"), "PNG"));
+        QCOMPARE(QImage(path("still.png"), "PNG").size(), QSize(352, 208));
     }
 
     void badInputEndsInErrorAndNextClipPlays() {
