@@ -97,9 +97,11 @@ private slots:
         front_ = make("front.mp4", with({"-f", "lavfi", "-i", "testsrc2=s=352x208:r=25:d=4", "-f", "lavfi", "-i",
                                          "sine=d=4", "-c:a", "aac"}));
         rear_ = make("rear.mp4", with({"-f", "lavfi", "-i", "smptebars=s=352x208:r=25:d=4"}));
-        // Red above, blue below: shows which way up the picture is drawn.
+        // Green top left, red top right, blue below: shows which way up and
+        // which way round the picture is drawn.
         halves_ = make("halves.mp4", with({"-f", "lavfi", "-i", "color=c=red:s=320x180:r=25:d=2,"
-                                                                  "drawbox=y=90:h=90:c=blue:t=fill"}));
+                                                                  "drawbox=y=90:h=90:c=blue:t=fill,"
+                                                                  "drawbox=w=160:h=90:c=green:t=fill"}));
         audioOnly_ = make("sound.mp4", {"-f", "lavfi", "-i", "sine=d=2", "-c:a", "aac"});
         brokenAvi_ = make("broken.avi", with({"-f", "lavfi", "-i", "testsrc2=s=352x208:r=25:d=2"}));
         QVERIFY(!front_.isEmpty() && !rear_.isEmpty() && !halves_.isEmpty() && !audioOnly_.isEmpty());
@@ -260,11 +262,15 @@ private slots:
     void pictureOrientationAndUpsideDown() {
         load(big_, halves_);
         const int cx = big_->width() / 2, cy = big_->height() / 2;
-        QTRY_VERIFY_WITH_TIMEOUT(grab(big_).pixelColor(cx, cy - 20).red() > 150, kWaitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(grab(big_).pixelColor(cx + 40, cy - 20).red() > 150, kWaitMs);
+        QVERIFY(grab(big_).pixelColor(cx - 40, cy - 20).green() > 100);
         QVERIFY(grab(big_).pixelColor(cx, cy + 20).blue() > 150);
+        // Upside down is half a turn (a camera mounted the other way up), not a mirror.
         big_->setUpsideDown(true);
-        const QImage flipped = grab(big_);
-        QVERIFY(flipped.pixelColor(cx, cy - 20).blue() > 150 && flipped.pixelColor(cx, cy + 20).red() > 150);
+        const QImage turned = grab(big_);
+        QVERIFY(turned.pixelColor(cx, cy - 20).blue() > 150);
+        QVERIFY(turned.pixelColor(cx - 40, cy + 20).red() > 150);
+        QVERIFY(turned.pixelColor(cx + 40, cy + 20).green() > 100);
         big_->setUpsideDown(false);
     }
 

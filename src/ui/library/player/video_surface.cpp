@@ -59,10 +59,13 @@ void VideoSurface::paintGL() {
     const QSize out = size() * devicePixelRatioF();
     const QSize fitted = player_->textureSize().scaled(out, Qt::KeepAspectRatio);
     const QRect target(QPoint((out.width() - fitted.width()) / 2, (out.height() - fitted.height()) / 2), fitted);
-    // mpv draws an FBO top row first; flipping shows it the other way up.
+    // mpv draws an FBO top row first. A camera mounted upside down needs its
+    // picture turned half a turn, not mirrored: flip the rows and the columns.
     const auto origin = flipped_ ? QOpenGLTextureBlitter::OriginBottomLeft : QOpenGLTextureBlitter::OriginTopLeft;
+    QMatrix4x4 transform = QOpenGLTextureBlitter::targetTransform(target, QRect(QPoint(), out));
+    if (flipped_) transform.scale(-1.0f, 1.0f);
     blitter_->bind();
-    blitter_->blit(player_->textureId(), QOpenGLTextureBlitter::targetTransform(target, QRect(QPoint(), out)), origin);
+    blitter_->blit(player_->textureId(), transform, origin);
     blitter_->release();
 }
 
