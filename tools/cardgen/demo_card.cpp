@@ -37,19 +37,19 @@ CardPlan demoCardPlan(const CardOptions& o) {
     add("cont_rec/20261121_083100_R.mp4", rear, T::SrtTrack);
     add("cont_rec/20261121_083200.avi", twin, T::TextRecords);
     add("cont_rec/2026_11_20/20261120_171500.avi", front, T::AviChunks);
-    add("cont_rec/2026_11_20/evening/20261120_171600.mov", front, T::None);
+    add("cont_rec/2026_11_20/evening/20261120_171600.mov", front, T::TailText);
     // Clips lying in the root itself.
     add("20261121_080000.avi", front, T::TailText);
-    add("20261121_080100.MP4", hevc, T::None);
+    add("20261121_080100.MP4", hevc, T::SrtTrack);
     // One clip in every other recording folder.
     add("motion_rec/20261121_084500.avi", front, T::AviChunks);
-    add("motion_timelapse_rec/20261121_230000.mp4", front, T::None);
+    add("motion_timelapse_rec/20261121_230000.mp4", front, T::SrtTrack);
     add("evt_rec/20261121_083215_F.mp4", frontAudio, T::SrtTrack);
     drive -= static_cast<int>(o.seconds);
     add("evt_rec/20261121_083215_R.mp4", rear, T::SrtTrack);
     add("parking_rec/20261121_221000.avi", front, T::AviChunks);
     add("manual_rec/20261121_090000.avi", front, T::TextRecords);
-    add("manual_rec/2026_11_21/20261121_091500.mov", front, T::None);
+    add("manual_rec/2026_11_21/20261121_091500.mov", front, T::TailText);
     // KRT cameras name their clips Rec_, Event_, Park_ or Manual_; the player
     // picks their reader by that name.
     add("option_rec/Rec_20261121_090500.avi", front, T::AviChunksKrt);
