@@ -22,6 +22,8 @@
 #include "ui/controls/image_button.h"
 #include "ui/controls/image_library.h"
 #include "ui/device/mount_watcher.h"
+#include "ui/library/playback/playback_controller.h"
+#include "ui/library/player/orvo_av_view.h"
 
 namespace tarvik {
 
@@ -50,6 +52,14 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
     prefsMenu_ = new PreferencesMenuController(v_.mainMenu, this);
     card_ = new CardController(v_, *catalogue_, this);
     connect(catalogue_, &CatalogueController::playVideoWithIdx, this, &MainWindowController::playVideoWithIdx);
+    // ---- playback: the players, the dashboard and the tool bar ----
+    playback_ = new PlaybackController(v_, catalogue_->catalogue(), this);
+    connect(this, &MainWindowController::playVideoWithIdx, playback_, &PlaybackController::playVideoWithIdx);
+    connect(playback_, &PlaybackController::enableVideoControlsRequested, this,
+            &MainWindowController::enableVideoControls);
+    connect(playback_, &PlaybackController::movieViewCoversNeedUpdate, this,
+            &MainWindowController::updateMovieViewCoverScrren);
+    // ---- end of playback ----
 
     auto& center = NotificationCenter::shared();
     connect(&center, &NotificationCenter::refreshLanguage, this, &MainWindowController::refreshLanguageHandler);
@@ -121,8 +131,8 @@ void MainWindowController::enableVideoControls(bool flag) {
 
 void MainWindowController::updateMovieViewCoverScrren() {
     // Until a player has a movie its cover stands in front of it.
-    v_.bigMovieCoverImageView->setVisible(true);
-    v_.smallMovieCoverImageView->setVisible(true);
+    v_.bigMovieCoverImageView->setVisible(!(playback_ && playback_->bigMovieView()->hasMovie()));
+    v_.smallMovieCoverImageView->setVisible(!(playback_ && playback_->smallMovieView()->hasMovie()));
 }
 
 void MainWindowController::windowDidResize() { MainWindowLayout::layOut(v_); }
@@ -153,5 +163,15 @@ void MainWindowController::refreshLanguageHandler() { applyLanguageSettings(); }
 void MainWindowController::refreshSpeedUnitHandler() {}
 
 void MainWindowController::volumeMountHandler() { updateModelInfo(); }
+
+// ---- playback: keyboard commands carried out by PlaybackController ----
+void MainWindowController::fullscreenButtonTouched(QObject* sender) { playback_->fullscreenButtonTouched(sender); }
+void MainWindowController::playPauseButtonTouched(QObject* sender) { playback_->playPauseButtonTouched(sender); }
+void MainWindowController::hideFullScreenMovie(QObject*) { playback_->hideFullScreenMovie(); }
+void MainWindowController::rewindButtonTouched(QObject* sender) { playback_->rewindButtonTouched(sender); }
+void MainWindowController::fastForwardButtonTouched(QObject* sender) { playback_->fastForwardButtonTouched(sender); }
+void MainWindowController::volumeDown(QObject*) { playback_->volumeDown(); }
+void MainWindowController::volumeUp(QObject*) { playback_->volumeUp(); }
+// ---- end of playback commands ----
 
 }  // namespace tarvik

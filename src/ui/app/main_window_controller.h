@@ -15,6 +15,7 @@ class CardController;
 class CatalogueController;
 class MainWindow;
 class MountWatcher;
+class PlaybackController;
 class PreferencesMenuController;
 class SplashWindow;
 
@@ -38,6 +39,7 @@ public:
     CatalogueController& catalogue() { return *catalogue_; }
     CardController& card() { return *card_; }
     PreferencesMenuController& preferencesMenu() { return *prefsMenu_; }
+    PlaybackController& playback() { return *playback_; }
 
     void showMainWindow();
     void enableVideoControls(bool flag);
@@ -55,6 +57,16 @@ public slots:
     void refreshSpeedUnitHandler();
     void volumeMountHandler();
 
+    // ---- playback: keyboard commands carried out by PlaybackController ----
+    void fullscreenButtonTouched(QObject* sender = nullptr);
+    void playPauseButtonTouched(QObject* sender = nullptr);
+    void hideFullScreenMovie(QObject* sender = nullptr);
+    void rewindButtonTouched(QObject* sender = nullptr);
+    void fastForwardButtonTouched(QObject* sender = nullptr);
+    void volumeDown(QObject* sender = nullptr);
+    void volumeUp(QObject* sender = nullptr);
+    // ---- end of playback commands ----
+
 signals:
     // A row of the clip list should play from its start.
     void playVideoWithIdx(int row);
@@ -70,6 +82,7 @@ private:
     CardController* card_ = nullptr;
     PreferencesMenuController* prefsMenu_ = nullptr;
     MountWatcher* mountWatcher_ = nullptr;
+    PlaybackController* playback_ = nullptr;
     QString fallbackFolder_;
     QString startFolder_;
     bool startFolderOpened_ = false;

@@ -125,10 +125,13 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
     saver_ = new ClipSaver(std::move(saving), this);
 
     alert_ = [this](const QString& message, const QString& informative) {
-        QMessageBox box(QMessageBox::Warning, message, message, QMessageBox::Ok,
-                        v_.mainWindow);
-        box.setInformativeText(informative);
-        box.exec();
+        // Window-modal and without a nested event loop: the window stays blocked
+        // until it is dismissed, and the players' events keep flowing meanwhile.
+        auto* box = new QMessageBox(QMessageBox::Warning, message, message, QMessageBox::Ok, v_.mainWindow);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->setInformativeText(informative);
+        box->setWindowModality(Qt::WindowModal);
+        box->open();
     };
     convert_ = [](const std::string& clip) {
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
