@@ -111,7 +111,10 @@ int SubtitleData::getGpsAt(unsigned t, float& lat, float& lng, unsigned& speed) 
     lat = (b->lat - a->lat) * f + a->lat;
     lng = (b->lng - a->lng) * f + a->lng;
     const float s = (static_cast<float>(b->speed) - static_cast<float>(a->speed)) * f + static_cast<float>(a->speed);
-    speed = s > 0.0f ? static_cast<unsigned>(std::trunc(s)) : 0u;
+    // Speeds near the top of the range interpolate past it in single precision.
+    if (!(s > 0.0f)) speed = 0;
+    else if (s >= 4294967295.0f) speed = 4294967295u;
+    else speed = static_cast<unsigned>(std::trunc(s));
     return GpsNearby;
 }
 

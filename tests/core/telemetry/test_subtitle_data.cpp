@@ -119,6 +119,11 @@ TEST(SubtitleTrack, PositionLookUp) {
     EXPECT_NEAR(lat, 37.56f, 1e-4);
     EXPECT_NEAR(lng, 127.06f, 1e-4);
     EXPECT_EQ(speed, 6u);  // 0 + (10 - 0) * 0.6
+    // A speed at the top of the range (knots of -0.5 wrap round) stays there.
+    d.loadFromText(cue(1, "00:00:01,000", fix1 + "-0.5") + cue(2, "00:00:02,000", fix2 + "-0.5"));
+    EXPECT_EQ(d.getGpsAt(16, lat, lng, speed), 1);
+    EXPECT_EQ(speed, 4294967295u);
+    d.loadFromText(cue(1, "00:00:01,000", fix1 + "0") + cue(2, "00:00:02,000", fix2 + "5.4"));
     // Midway, both are 500 ms away: the first stays alone, so no interpolation.
     EXPECT_EQ(d.getGpsAt(15, lat, lng, speed), 1);
     EXPECT_NEAR(lat, 37.5f, 1e-5);
