@@ -62,11 +62,11 @@ function(tarvik_core_test name)
     PROPERTIES TIMEOUT ${T_TIMEOUT} ENVIRONMENT "TARVIK_FFMPEG=ffmpeg")
 endfunction()
 
-# tarvik_ui_test(SOURCE file LIBS targets... [DISPLAY]) -> a Qt Test program per
+# tarvik_ui_test(SOURCE file LIBS targets... [DISPLAY] [SERIAL]) -> a Qt Test program per
 # file. Without DISPLAY the test runs on the offscreen platform; with it, on the
 # X server that `make test` provides (needed for OpenGL and the web engine).
 function(tarvik_ui_test src)
-  cmake_parse_arguments(T "DISPLAY" "TIMEOUT" "LIBS" ${ARGN})
+  cmake_parse_arguments(T "DISPLAY;SERIAL" "TIMEOUT" "LIBS" ${ARGN})
   get_filename_component(name ${src} NAME_WE)
   add_executable(${name} ${src})
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
@@ -86,4 +86,9 @@ function(tarvik_ui_test src)
     set(T_TIMEOUT 300)
   endif()
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "${env}" TIMEOUT ${T_TIMEOUT})
+  # Tests that measure playback in real time run alone, so that another test
+  # hogging the two cores cannot make a clip end before the test looks.
+  if(T_SERIAL)
+    set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE)
+  endif()
 endfunction()

@@ -2,11 +2,13 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QScreen>
+#include <QFile>
+#include <QStandardPaths>
 #include <QTimer>
 #include <clocale>
 
 #include "core/app/viewer_preferences.h"
+#include "core/library/conversion/utils.h"
 #include "ui/app/application_style.h"
 #include "ui/app/main_window.h"
 #include "ui/app/main_window_controller.h"
@@ -17,6 +19,8 @@
 #endif
 
 int main(int argc, char** argv) {
+    // The players draw in their own GL contexts and hand textures to the window's.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     QApplication::setApplicationName("Tarvik Viewer");
     QApplication::setOrganizationName("Tarvik");
@@ -52,5 +56,9 @@ int main(int argc, char** argv) {
         });
     }
     controller.start();
-    return app.exec();
+    const int status = app.exec();
+    // Converted clips are a cache of this run only.
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    tarvik::Utils::RemoveDirectory(tarvik::Utils::GetWorkingDirectoryPath(QFile::encodeName(documents).toStdString()));
+    return status;
 }

@@ -12,12 +12,14 @@
 #include <QSlider>
 #include <QTimer>
 
+#include "core/settings/krt/krt_setting_manager.h"
 #include "ui/app/card_controller.h"
 #include "ui/app/catalogue_controller.h"
 #include "ui/app/main_window.h"
 #include "ui/app/main_window_layout.h"
 #include "ui/app/preferences_menu_controller.h"
 #include "ui/app/prefs/notification_center.h"
+#include "ui/app/settings_alert_box.h"
 #include "ui/app/splash_window.h"
 #include "ui/controls/image_button.h"
 #include "ui/controls/image_library.h"
@@ -48,6 +50,11 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
         splash_->resize(600, 340);
     }
 
+    alertBox_ = std::make_unique<SettingsAlertBox>(window);
+    // The factory settings of the KRT family ship inside the program.
+    QFile factory(":/settings/default_Q260.cfg");
+    if (factory.open(QIODevice::ReadOnly)) KRTSettingManager::setFactoryDefaultsText(factory.readAll().toStdString());
+
     catalogue_ = new CatalogueController(v_, this);
     prefsMenu_ = new PreferencesMenuController(v_.mainMenu, this);
     card_ = new CardController(v_, *catalogue_, this);
@@ -76,7 +83,10 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
     updateMovieViewCoverScrren();
 }
 
-MainWindowController::~MainWindowController() { delete v_.mainWindow; }
+MainWindowController::~MainWindowController() {
+    alertBox_.reset();
+    delete v_.mainWindow;
+}
 
 void MainWindowController::start(int splashMilliseconds) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();

@@ -17,6 +17,7 @@ class MainWindow;
 class MountWatcher;
 class PlaybackController;
 class PreferencesMenuController;
+class SettingsAlertBox;
 class SplashWindow;
 
 class MainWindowController : public QObject {
@@ -82,6 +83,7 @@ private:
     CardController* card_ = nullptr;
     PreferencesMenuController* prefsMenu_ = nullptr;
     MountWatcher* mountWatcher_ = nullptr;
+    std::unique_ptr<SettingsAlertBox> alertBox_;
     PlaybackController* playback_ = nullptr;
     QString fallbackFolder_;
     QString startFolder_;

@@ -107,7 +107,7 @@ private slots:
         QVERIFY(dir_.isValid());
         card_ = fs::path(dir_.path().toStdString()) / "card";
         cardgen::CardOptions options;
-        options.seconds = 3;
+        options.seconds = 6;
         options.width = 320;
         options.height = 180;
         cardgen::CardPlan plan = cardgen::demoCardPlan(options);
@@ -149,7 +149,7 @@ private slots:
         dialogs_->pdf = dir_.filePath("print.pdf");
         QDir().mkpath(dialogs_->folder);
         playback().saver().setDialogs(std::move(dialogs));
-        // The map page loads once with the window; a clip lasts only three seconds.
+        // The map page loads once with the window; a clip lasts only six seconds.
         QVERIFY(playback().dashboardWidgets().mapController);
         QTRY_VERIFY_WITH_TIMEOUT(playback().dashboardWidgets().mapController->isPageReady(), 30000);
     }
@@ -201,7 +201,7 @@ private slots:
 
         // At the end the list moves on, past the rear file, to the two-stream AVI.
         const int avi = rowOf("20261121_083200.avi");
-        QTRY_COMPARE_WITH_TIMEOUT(window_->catalogue().selectedRow(), avi, 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(window_->catalogue().selectedRow(), avi, 20000);
         QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QTRY_COMPARE_WITH_TIMEOUT(small()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QVERIFY(!playback().smallVideoFilePath().empty());

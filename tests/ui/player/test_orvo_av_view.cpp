@@ -248,7 +248,8 @@ private slots:
         rec_.times.clear();
         big_->setCurrentTime(2.0);
         QTRY_VERIFY_WITH_TIMEOUT(std::abs(rec_.lastTime(big_) - 2.0) < 1e-3, kWaitMs);
-        QCOMPARE(rec_.lastTime(small_), -1.0);
+        // A late tick of the other player may still arrive, but never with this seek.
+        QVERIFY(std::abs(rec_.lastTime(small_) - 2.0) > 0.5);
         QCOMPARE(grab(big_).pixelColor(big_->width() / 2, 4) == grab(small_).pixelColor(small_->width() / 2, 4),
                  false);
         big_->swapPlayerItemWith(small_);

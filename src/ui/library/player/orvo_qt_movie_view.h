@@ -5,11 +5,10 @@
 
 #include <QPointer>
 
+#include "ui/library/player/orvo_av_view.h"
 #include "ui/library/player/video_surface.h"
 
 namespace tarvik {
-
-class OrvoAVView;
 
 class OrvoQTMovieViewDelegate {
 public:
