@@ -69,7 +69,7 @@ void buildTitleStrip(MainWindowViews& v, QWidget* strip) {
     h->addWidget(v.mainMenu, 0, Qt::AlignVCenter);
     h->addStretch(1);
     v.modelTextField = text(strip, "modelTextField");
-    v.modelTextField->setStyleSheet("color: #f2a33a; font-weight: 600;");
+    v.modelTextField->setStyleSheet("color: white; font-weight: 600;");
     h->addWidget(v.modelTextField);
     v.settingsButton = button(strip, "settings_btn_1", "settingsButton", QSize(28, 28));
     h->addWidget(v.settingsButton);
@@ -195,7 +195,7 @@ void buildToolbar(MainWindowViews& v, QWidget* window) {
     v.playTimeTextField = text(t, "playTimeTextField", "00:00/00:00");
     v.playTimeTextField->setGeometry(870, 2, 110, 20);
     v.playTimeTextField->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    v.playTimeTextField->setStyleSheet("font-family: monospace; font-size: 13px;");
+    v.playTimeTextField->setStyleSheet("font-family: monospace; font-size: 13px; color: white;");
 
     struct Spec { ImageButton** field; const char* image; const char* name; int x; };
     const Spec specs[] = {
@@ -245,7 +245,7 @@ void buildDashboard(MainWindowViews& v, QWidget* window) {
     int x = 60;
     for (QLabel* g : {v.gxTextField, v.gyTextField, v.gzTextField}) {
         g->setGeometry(x, 154, 76, 22);
-        g->setStyleSheet("font-family: monospace;");
+        g->setStyleSheet("font-family: monospace; color: white;");
         x += 80;
     }
 
@@ -266,7 +266,8 @@ void buildDashboard(MainWindowViews& v, QWidget* window) {
     v.lngTextField->setGeometry(812, 86, 124, 22);
     v.fileDateTextField->setGeometry(812, 130, 124, 40);
     v.fileDateTextField->setWordWrap(true);
-    for (QLabel* l : {v.latTextField, v.lngTextField}) l->setStyleSheet("font-family: monospace;");
+    for (QLabel* l : {v.latTextField, v.lngTextField}) l->setStyleSheet("font-family: monospace; color: white;");
+    v.fileDateTextField->setStyleSheet("color: white;");
 }
 
 }  // namespace

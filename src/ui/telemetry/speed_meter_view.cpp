@@ -21,8 +21,11 @@ constexpr double kMilesPerKilometre = 0.621371;
 // Below this many km/h the read-out stays blank, whichever unit is shown.
 constexpr uint32_t kMinimumShownKmh = 9;
 
+// Miles only when the user picked them (1). The value written at first start
+// (2) is km/h, as the unit menu shows it: the gauge must never disagree with
+// the menu's check mark.
 bool mphSelected() {
-    return QSettingsStore::shared().integer(SpeedMeterView::kSpeedUnitKey).value_or(0) != 0;
+    return QSettingsStore::shared().integer(SpeedMeterView::kSpeedUnitKey).value_or(0) == 1;
 }
 
 QString digitName(uint32_t digit) { return QString::number(digit); }

@@ -97,9 +97,9 @@ void TestSpeedMeterView::milesPerHour() {
     QCOMPARE(shownFor(view, 8), QString("/0/mph"));
     QCOMPARE(shownFor(view, 9), QString("6/0/mph"));
     QCOMPARE(shownFor(view, 400), QString("249/24/mph"));
-    // Any stored value other than 0 means miles, the first-run 2 included.
+    // The first-run 2 is km/h, as the unit menu marks it.
     setUnit(2);
-    QCOMPARE(shownFor(view, 100), QString("62/6/mph"));
+    QCOMPARE(shownFor(view, 100), QString("100/10/-"));
     setUnit(0);
     QCOMPARE(shownFor(view, 100), QString("100/10/-"));
 }
