@@ -46,15 +46,18 @@ void CatalogueController::showRoot() {
 
 void CatalogueController::refreshVideoFileListWithURL(const std::string& dir) {
     catalogue_.refreshVideoFileListWithURL(dir);
-    showRoot();
-    reloadTable();
-    if (catalogue_.hasRows()) v_.fileListTableView->selectRow(0);
+    showScan();
 }
 
 void CatalogueController::refreshVideoFileList() {
     catalogue_.refreshVideoFileList();
+    showScan();
+}
+
+void CatalogueController::showScan() {
     showRoot();
     reloadTable();
+    // The first clip is selected, not played: playing waits for the user.
     if (catalogue_.hasRows()) v_.fileListTableView->selectRow(0);
 }
 
@@ -101,12 +104,7 @@ int CatalogueController::selectedRow() const {
     return rows.isEmpty() ? -1 : rows.first().row();
 }
 
-void CatalogueController::chooseFolder(const std::string& dir) {
-    catalogue_.refreshVideoFileListWithURL(dir);
-    showRoot();
-    reloadTable();
-    if (catalogue_.hasRows()) v_.fileListTableView->selectRow(0);
-}
+void CatalogueController::chooseFolder(const std::string& dir) { refreshVideoFileListWithURL(dir); }
 
 void CatalogueController::selectFolderButtonTouched() {
     QFileDialog panel(v_.mainWindow, tr_k("열기"));

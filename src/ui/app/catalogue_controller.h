@@ -49,6 +49,7 @@ signals:
 
 private:
     void showRoot();
+    void showScan();
 
     const MainWindowViews& v_;
     ClipCatalogue catalogue_;
