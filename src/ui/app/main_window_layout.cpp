@@ -235,16 +235,22 @@ void buildDashboard(MainWindowViews& v, QWidget* window) {
     v.dashboardCtrls->setGeometry(43, 0, 938, MainWindowLayout::kDashboardHeight - 8);
     QWidget* d = v.dashboardCtrls;
 
+    // The G-sensor history of the whole clip over its grid, with the legend
+    // above and the current values below.
+    auto* legend = image(d, "gsensor_legend", "gsensorLegend");
+    legend->move(2, 14);
+    auto* graphBg = image(d, "gsensor_graph_bg", "gsensorGraphBackground");
+    graphBg->setGeometry(0, 34, 300, 64);
     v.gravityGraphHost = panel(d, "gravityGraphView", "background: transparent;");
-    v.gravityGraphHost->setGeometry(0, 8, 300, 140);
+    v.gravityGraphHost->setGeometry(0, 34, 300, 64);
     v.shockCarImageView = image(d, "shock_gage1", "shockCarImageView");
-    v.shockCarImageView->move(4, 152);
+    v.shockCarImageView->move(4, 110);
     v.gxTextField = text(d, "gxTextField", "0.000");
     v.gyTextField = text(d, "gyTextField", "0.000");
     v.gzTextField = text(d, "gzTextField", "0.000");
     int x = 60;
     for (QLabel* g : {v.gxTextField, v.gyTextField, v.gzTextField}) {
-        g->setGeometry(x, 154, 76, 22);
+        g->setGeometry(x, 112, 76, 22);
         g->setStyleSheet("font-family: monospace; color: white;");
         x += 80;
     }
@@ -265,6 +271,7 @@ void buildDashboard(MainWindowViews& v, QWidget* window) {
     v.latTextField->setGeometry(812, 60, 124, 22);
     v.lngTextField->setGeometry(812, 86, 124, 22);
     v.fileDateTextField->setGeometry(812, 130, 124, 40);
+    v.fileDateTextField->setToolTip("Recording time");
     v.fileDateTextField->setWordWrap(true);
     for (QLabel* l : {v.latTextField, v.lngTextField}) l->setStyleSheet("font-family: monospace; color: white;");
     v.fileDateTextField->setStyleSheet("color: white;");

@@ -1,5 +1,6 @@
 #include "ui/library/playback/playback_controller.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -12,6 +13,7 @@
 #include <QWebEngineView>
 
 #include "core/library/clip_catalogue.h"
+#include "core/library/recording_time.h"
 #include "core/library/conversion/clip_converter.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
@@ -134,8 +136,13 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
         box->open();
     };
     convert_ = [](const std::string& clip) {
+        // Remuxing copies streams and is quick, but a long clip on a slow card
+        // can take a moment: say so with the pointer.
+        QApplication::setOverrideCursor(Qt::WaitCursor);
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-        return ClipConverter(QFile::encodeName(documents).toStdString()).checkAndConvertVideo(clip);
+        auto files = ClipConverter(QFile::encodeName(documents).toStdString()).checkAndConvertVideo(clip);
+        QApplication::restoreOverrideCursor();
+        return files;
     };
     connectButtons();
 }
@@ -184,6 +191,13 @@ void PlaybackController::playVideoWithIdx(int row) {
     prepareVideoToPlay(list[static_cast<std::size_t>(row)], 0.0);
 }
 
+void PlaybackController::showRecordingTime(const std::string& clip) {
+    const auto name = ClipCatalogue::fileName(clip);
+    const std::string when = recordingTimeText(name);
+    v_.fileDateTextField->setText(when.empty() ? QFile::decodeName(QByteArray(name.data(), static_cast<int>(name.size())))
+                                               : QString::fromStdString(when));
+}
+
 void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     dashboard_->resetVideoInformation();
     if (!fullScreen_->isFullScreenMode()) zoom_->resetForNewClip();
@@ -206,6 +220,7 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     }
     currentVideoUrl_ = url;
     emit enableVideoControlsRequested(true);
+    showRecordingTime(url);
 
     bigVideoFilePath_ = files->front();
     bigMovieView_->setFileName(fromBytes(bigVideoFilePath_));

@@ -69,6 +69,8 @@ public:
     void playVideoWithIdx(int row);
     // The seek time is accepted but a clip always starts from its beginning.
     void prepareVideoToPlay(const std::string& url, double seekTime = 0.0);
+    // The recording time read from the clip's name, or the name itself.
+    void showRecordingTime(const std::string& clip);
     void playVideo() override;
     void pauseVideo() override;
     void stopVideo();
