@@ -33,6 +33,9 @@ protected:
         std::ofstream(p) << "x";
         return p.string();
     }
+    void touch(std::initializer_list<const char*> rels) {
+        for (const char* rel : rels) touch(std::string(rel));
+    }
     std::vector<std::string> names(const std::vector<std::string>& paths) const {
         std::vector<std::string> out;
         for (auto& p : paths) out.emplace_back(ClipCatalogue::fileName(p));
@@ -57,12 +60,9 @@ using Strings = std::vector<std::string>;
 }  // namespace
 
 TEST_F(TempCard, ScanTakesRootAndListedFoldersAtAnyDepthOnly) {
-    touch("root.mp4");
-    touch("cont_rec/c.mp4");
-    touch("cont_rec/2026/11/21/deep.avi");
-    touch("misc/never.mp4");
-    touch("misc/cont_rec/neither.mp4");  // a listed name below an unlisted folder
-    touch("Other/evt_rec.mp4");
+    // misc/cont_rec: a listed name below an unlisted folder.
+    touch({"root.mp4", "cont_rec/c.mp4", "cont_rec/2026/11/21/deep.avi", "misc/never.mp4", "misc/cont_rec/neither.mp4",
+           "Other/evt_rec.mp4"});
     fs::create_directories(fs::path(root) / "dir.mp4");  // a folder named like a clip
 
     cat.refreshVideoFileListWithURL(root);
@@ -76,8 +76,8 @@ TEST_F(TempCard, ScanTakesRootAndListedFoldersAtAnyDepthOnly) {
 }
 
 TEST_F(TempCard, ClipFilesAreDecidedByExtensionAlone) {
-    for (const char* n : {"CLIP.MP4", "clip.Mov", "x.avi", "empty.mp4"}) touch(std::string("cont_rec/") + n);
-    for (const char* n : {"clip.mpg", "clip.mp4.tmp", ".hidden.mp4", "mp4", "clip.mp", "clip.mp4 ", "clip."})
+    for (const char* n : {"CLIP.MP4", "clip.Mov", "x.avi", "empty.mp4", "clip.mpg", "clip.mp4.tmp", ".hidden.mp4", "mp4",
+                          "clip.mp", "clip.mp4 ", "clip."})
         touch(std::string("cont_rec/") + n);
     touch("cont_rec/.trash/inside.mp4");  // hidden folders are skipped as a whole
     cat.refreshVideoFileListWithURL(root);
@@ -89,15 +89,9 @@ TEST_F(TempCard, ClipFilesAreDecidedByExtensionAlone) {
 }
 
 TEST_F(TempCard, FiltersTakeTheirCompanionFolders) {
-    touch("cont_rec/a_cont.mp4");
-    touch("motion_rec/b_motion.mp4");
-    touch("motion_timelapse_rec/c_lapse.mp4");
-    touch("evt_rec/d_evt.mp4");
-    touch("parking_rec/e_park.mp4");
-    touch("manual_rec/f_manual.mp4");
-    touch("option_rec/g_option.mp4");
-    touch("Saved_Videos/h_saved.mp4");
-    touch("i_root.mp4");
+    touch({"cont_rec/a_cont.mp4", "motion_rec/b_motion.mp4", "motion_timelapse_rec/c_lapse.mp4", "evt_rec/d_evt.mp4",
+           "parking_rec/e_park.mp4", "manual_rec/f_manual.mp4", "option_rec/g_option.mp4", "Saved_Videos/h_saved.mp4",
+           "i_root.mp4"});
     cat.refreshVideoFileListWithURL(root);
 
     EXPECT_EQ(filtered(0), (Strings{"h_saved.mp4", "a_cont.mp4", "b_motion.mp4", "c_lapse.mp4", "d_evt.mp4",
@@ -116,12 +110,8 @@ TEST_F(TempCard, FiltersTakeTheirCompanionFolders) {
 
 TEST_F(TempCard, FilterMatchesFolderNamesAnywhereInThePath) {
     // A root that happens to contain a folder name: every clip below it passes.
-    const std::string oddRoot = root + "/backup_evt_rec_2026";
-    fs::create_directories(oddRoot);
-    std::ofstream(oddRoot + "/top.mp4");
-    fs::create_directories(oddRoot + "/cont_rec");
-    std::ofstream(oddRoot + "/cont_rec/c.mp4");
-    cat.refreshVideoFileListWithURL(oddRoot);
+    touch({"backup_evt_rec_2026/top.mp4", "backup_evt_rec_2026/cont_rec/c.mp4"});
+    cat.refreshVideoFileListWithURL(root + "/backup_evt_rec_2026");
     EXPECT_EQ(filtered(3), (Strings{"c.mp4", "top.mp4"}));
     EXPECT_EQ(filtered(1), (Strings{"c.mp4"}));
     // Case-sensitive: CONT_REC is not cont_rec.
@@ -129,13 +119,8 @@ TEST_F(TempCard, FilterMatchesFolderNamesAnywhereInThePath) {
 }
 
 TEST_F(TempCard, SortPutsSavedFirstThenPlainFileNameOrder) {
-    touch("parking_rec/A.mp4");
-    touch("cont_rec/Z.mp4");
-    touch("cont_rec/a.mp4");
-    touch("cont_rec/10.mp4");
-    touch("cont_rec/9.mp4");
-    touch("Saved_Videos/zz.mp4");
-    touch("Saved_Videos/nested/yy.mp4");
+    touch({"parking_rec/A.mp4", "cont_rec/Z.mp4", "cont_rec/a.mp4", "cont_rec/10.mp4", "cont_rec/9.mp4",
+           "Saved_Videos/zz.mp4", "Saved_Videos/nested/yy.mp4"});
     cat.refreshVideoFileListWithURL(root);
     EXPECT_EQ(filtered(0), (Strings{"yy.mp4", "zz.mp4", "10.mp4", "9.mp4", "A.mp4", "Z.mp4", "a.mp4"}));
 
@@ -147,23 +132,17 @@ TEST_F(TempCard, SortPutsSavedFirstThenPlainFileNameOrder) {
 }
 
 TEST_F(TempCard, RowColoursComeFromTheParentFolder) {
-    touch("Saved_Videos/s.mp4");
-    touch("Saved_Videos/sub/n.mp4");
-    touch("option_rec/o.mp4");
-    touch("option_rec/sub/p.mp4");
-    touch("cont_rec/c.mp4");
+    touch({"Saved_Videos/s.mp4", "Saved_Videos/sub/n.mp4", "option_rec/o.mp4", "option_rec/sub/p.mp4", "cont_rec/c.mp4"});
     cat.refreshVideoFileListWithURL(root);
     ASSERT_EQ(cat.rowCount(), 5);
-    // Rows: n (saved, nested), s (saved), c, o, p.
     ASSERT_EQ(cat.rowFileName(0), "n.mp4");
-    EXPECT_EQ(cat.rowCategory(0), ClipRowCategory::Normal);  // sorted with the saved, but not magenta
-    EXPECT_EQ(cat.rowCategory(1), ClipRowCategory::Saved);
-    EXPECT_EQ(cat.rowCategory(2), ClipRowCategory::Normal);
-    EXPECT_EQ(cat.rowCategory(3), ClipRowCategory::Option);
-    EXPECT_EQ(cat.rowCategory(4), ClipRowCategory::Normal);  // below option_rec, not in it
-    EXPECT_EQ(cat.rowCategory(-1), ClipRowCategory::Normal);
-    EXPECT_EQ(cat.rowCategory(5), ClipRowCategory::Normal);
     EXPECT_EQ(cat.rowFileName(5), "");
+    // Rows -1..5: out of range, n (sorted with the saved, but not magenta), s, c, o, p (below option_rec, not in
+    // it), out of range.
+    std::vector<ClipRowCategory> rows;
+    for (int row = -1; row <= 5; ++row) rows.push_back(cat.rowCategory(row));
+    using C = ClipRowCategory;
+    EXPECT_EQ(rows, (std::vector{C::Normal, C::Normal, C::Saved, C::Normal, C::Option, C::Normal, C::Normal}));
 }
 
 TEST_F(TempCard, SwitchedPlayersTakeTheFrontRearPartner) {
@@ -236,12 +215,9 @@ TEST_F(TempCard, RemovalDeletesTheFileThenBothListEntries) {
 }
 
 TEST_F(TempCard, RemovingTheOnlyClipLeavesNoRows) {
-    touch("manual_rec/only.mp4");
-    touch("cont_rec/other.mp4");
+    touch({"manual_rec/only.mp4", "cont_rec/other.mp4"});
     cat.refreshVideoFileListWithURL(root);
-    cat.setVideoFileFilterGroupA(4);
-    cat.applyVideoFileFilter();
-    ASSERT_TRUE(cat.hasRows());
+    ASSERT_EQ(filtered(4), (Strings{"only.mp4"}));
     EXPECT_TRUE(cat.removeFile(0));
     EXPECT_FALSE(cat.hasRows());
     EXPECT_EQ(cat.rowCount(), 0);
