@@ -16,6 +16,18 @@ using tarvik::ImageLibrary;
 
 namespace {
 
+// A 40x20 button with its signals recorded.
+struct Spied {
+    ImageButton b;
+    QSignalSpy clicked{&b, &ImageButton::clicked}, hovered{&b, &ImageButton::hovered},
+        exited{&b, &ImageButton::hoverExited};
+    explicit Spied(const QString& image, bool autoImages = true) {
+        b.setAllowAutoMouseEventImage(autoImages);
+        b.setImage(image);
+        b.resize(40, 20);
+    }
+};
+
 void writeSvg(const QString& dir, const QString& name, int w, int h, const char* colour) {
     QFile f(dir + "/" + name + ".svg");
     QVERIFY(f.open(QIODevice::WriteOnly));
@@ -51,9 +63,8 @@ class TestImageButton : public QObject {
 private slots:
     void initTestCase() {
         QVERIFY(dir.isValid());
-        writeSvg(dir.path(), "play_1", 40, 20, "#101010");
-        writeSvg(dir.path(), "play_2", 40, 20, "#00ff00");
-        writeSvg(dir.path(), "play_3", 40, 20, "#ff0000");
+        for (auto [name, colour] : {std::pair{"play_1", "#101010"}, {"play_2", "#00ff00"}, {"play_3", "#ff0000"}})
+            writeSvg(dir.path(), name, 40, 20, colour);
         QFile bad(dir.path() + "/broken.svg");
         QVERIFY(bad.open(QIODevice::WriteOnly));
         bad.write("<svg xmlns='http://www.w3.org/2000/svg' width='10' he");
@@ -105,92 +116,74 @@ private slots:
     }
 
     void hoverPressReleaseSwapImagesAndFire() {
-        ImageButton b("play_1");
-        b.resize(40, 20);
-        QSignalSpy clicked(&b, &ImageButton::clicked);
-        QSignalSpy hovered(&b, &ImageButton::hovered);
-        QSignalSpy exited(&b, &ImageButton::hoverExited);
-
-        enter(&b);
-        QCOMPARE(b.imageName(), QString("play_2"));
-        QCOMPARE(hovered.count(), 1);
-        QCOMPARE(hovered.at(0).at(0).value<ImageButton*>(), &b);
-        press(&b);
-        QCOMPARE(b.imageName(), QString("play_3"));
-        QVERIFY(b.isMouseDown());
-        release(&b);
-        QCOMPARE(b.imageName(), QString("play_2"));
-        QCOMPARE(clicked.count(), 1);
-        QVERIFY(!b.isMouseDown());
-        leave(&b);
-        QCOMPARE(b.imageName(), QString("play_1"));
-        QCOMPARE(exited.count(), 1);
+        Spied s("play_1");
+        enter(&s.b);
+        QCOMPARE(s.b.imageName(), QString("play_2"));
+        QCOMPARE(s.hovered.count(), 1);
+        QCOMPARE(s.hovered.at(0).at(0).value<ImageButton*>(), &s.b);
+        press(&s.b);
+        QCOMPARE(s.b.imageName(), QString("play_3"));
+        QVERIFY(s.b.isMouseDown());
+        release(&s.b);
+        QCOMPARE(s.b.imageName(), QString("play_2"));
+        QCOMPARE(s.clicked.count(), 1);
+        QVERIFY(!s.b.isMouseDown());
+        leave(&s.b);
+        QCOMPARE(s.b.imageName(), QString("play_1"));
+        QCOMPARE(s.exited.count(), 1);
 
         // Dragged off before release: no action.
-        enter(&b);
-        press(&b);
-        drag(&b, {100, 100});
-        QCOMPARE(b.imageName(), QString("play_1"));
-        QCOMPARE(exited.count(), 2);
-        release(&b, {100, 100});
-        QCOMPARE(clicked.count(), 1);
+        enter(&s.b);
+        press(&s.b);
+        drag(&s.b, {100, 100});
+        QCOMPARE(s.b.imageName(), QString("play_1"));
+        QCOMPARE(s.exited.count(), 2);
+        release(&s.b, {100, 100});
+        QCOMPARE(s.clicked.count(), 1);
 
         // Right button is not a click.
         QMouseEvent rp(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::RightButton, Qt::RightButton,
                        Qt::NoModifier);
-        QApplication::sendEvent(&b, &rp);
-        QVERIFY(!b.isMouseDown());
+        QApplication::sendEvent(&s.b, &rp);
+        QVERIFY(!s.b.isMouseDown());
     }
 
     void withoutAutoImagesTheImageStaysAndReleaseFiresAnywhere() {
-        ImageButton b;
-        b.setAllowAutoMouseEventImage(false);
-        b.setImage("sorting_btn_60_2");
-        b.resize(40, 20);
-        QSignalSpy clicked(&b, &ImageButton::clicked);
-        QSignalSpy hovered(&b, &ImageButton::hovered);
-        enter(&b);
-        press(&b);
-        QCOMPARE(b.imageName(), QString("sorting_btn_60_2"));
-        drag(&b, {100, 100});
-        leave(&b);
-        release(&b, {100, 100});
-        QCOMPARE(b.imageName(), QString("sorting_btn_60_2"));
-        QCOMPARE(clicked.count(), 1);
-        QCOMPARE(hovered.count(), 0);
+        Spied s("sorting_btn_60_2", false);
+        enter(&s.b);
+        press(&s.b);
+        QCOMPARE(s.b.imageName(), QString("sorting_btn_60_2"));
+        drag(&s.b, {100, 100});
+        leave(&s.b);
+        release(&s.b, {100, 100});
+        QCOMPARE(s.b.imageName(), QString("sorting_btn_60_2"));
+        QCOMPARE(s.clicked.count(), 1);
+        QCOMPARE(s.hovered.count(), 0);
     }
 
     void disabledButtonIgnoresHoverAndRelease() {
-        ImageButton b("play_1");
-        b.resize(40, 20);
-        b.setEnabled(false);
-        QSignalSpy clicked(&b, &ImageButton::clicked);
-        QSignalSpy hovered(&b, &ImageButton::hovered);
-        enter(&b);
-        QCOMPARE(b.imageName(), QString("play_1"));
-        QCOMPARE(hovered.count(), 0);
+        Spied s("play_1");
+        s.b.setEnabled(false);
+        enter(&s.b);
+        QCOMPARE(s.b.imageName(), QString("play_1"));
+        QCOMPARE(s.hovered.count(), 0);
         // Qt would not deliver these to a disabled widget; the handlers must
         // not fire even when they are called.
-        b.setEnabled(true);
-        press(&b);
-        b.setEnabled(false);
-        release(&b);
-        QCOMPARE(clicked.count(), 0);
+        s.b.setEnabled(true);
+        press(&s.b);
+        s.b.setEnabled(false);
+        release(&s.b);
+        QCOMPARE(s.clicked.count(), 0);
     }
 
     void removeTargetDetachesReceivers() {
-        ImageButton b("play_1");
-        b.resize(40, 20);
-        int clicks = 0, hovers = 0;
-        connect(&b, &ImageButton::clicked, this, [&] { ++clicks; });
-        connect(&b, &ImageButton::hovered, this, [&] { ++hovers; });
-        b.removeTarget();
-        enter(&b);
-        press(&b);
-        release(&b);
-        QCOMPARE(clicks, 0);
-        QCOMPARE(hovers, 0);
-        QCOMPARE(b.imageName(), QString("play_2"));  // still looks alive
+        Spied s("play_1");
+        s.b.removeTarget();
+        enter(&s.b);
+        press(&s.b);
+        release(&s.b);
+        QCOMPARE(s.clicked.count() + s.hovered.count(), 0);
+        QCOMPARE(s.b.imageName(), QString("play_2"));  // still looks alive
     }
 };
 
