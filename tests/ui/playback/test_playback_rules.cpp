@@ -1,10 +1,7 @@
-// The playback helpers on their own, with real widgets and real telemetry
-// files: clip stepping, the dashboard's throttles and texts, zoom and pan,
-// volume and mute, the seek slider, the play animation, snapshot names, PNG
-// writes and printing.
+// The playback helpers on their own, with real widgets and telemetry: clip
+// stepping, dashboard throttles, zoom, volume, seek slider, animation, saving.
 #include <QFile>
 #include <QLabel>
-#include <QPrinter>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -44,14 +41,10 @@ struct Dashboard {
     QWidget cover, web;
     MapController map{nullptr};
     SetClock clock;
-    DashboardUpdater updater;
-    Dashboard() : updater(targets(), clock) {}
-    DashboardTargets targets() {
-        DashboardTargets t;
-        t.gxText = &gx, t.gyText = &gy, t.gzText = &gz, t.latText = &lat, t.lngText = &lng;
-        t.playTimeText = &time, t.speedMeter = &speed, t.mapCover = &cover, t.mapWebView = &web, t.map = &map;
-        return t;
-    }
+    DashboardUpdater updater{{.gxText = &gx, .gyText = &gy, .gzText = &gz, .latText = &lat, .lngText = &lng,
+                              .playTimeText = &time, .speedMeter = &speed, .mapCover = &cover, .mapWebView = &web,
+                              .map = &map},
+                             clock};
     void at(double seconds) {
         clock.t = seconds;
         updater.playVideoTimerCallback();
@@ -335,7 +328,7 @@ private slots:
         QCOMPARE(ClipSaver::baseNameOf(""), QString());
     }
 
-    void pngAndPrintWritesAreWholeOrNothing() {
+    void pngWritesAreWholeOrNothingAndCopiesNeverReplace() {
         QTemporaryDir dir;
         QImage image(320, 180, QImage::Format_RGB32);
         image.fill(Qt::darkCyan);
