@@ -22,12 +22,13 @@ struct Fix {
 OrvoClipData clipWithFixes(const std::vector<Fix>& fixes, int gpsCount) {
     OrvoClipData data;
     data.setClipDataCount(static_cast<int>(fixes.size()));
-    for (size_t i = 0; i < fixes.size(); ++i) {
+    for (size_t i = 0; i < fixes.size(); ++i)
         data.storeSample(static_cast<int>(i), 0, 0, 0, fixes[i].lat, fixes[i].lng, 40);
-    }
     data.setGpsDataCount(gpsCount);
     return data;
 }
+
+QString polyLine(const char* points) { return QStringLiteral("addPolyLine('%1', 'red', 4, 0.5)").arg(points); }
 
 QJsonObject mapState(QWebEngineView& view) {
     QJsonObject state;
@@ -37,9 +38,7 @@ QJsonObject mapState(QWebEngineView& view) {
                                    state = QJsonDocument::fromJson(v.toString().toUtf8()).object();
                                    done = true;
                                });
-    if (!QTest::qWaitFor([&] { return done; }, 5000)) {
-        qWarning("map page did not answer");
-    }
+    if (!QTest::qWaitFor([&] { return done; }, 5000)) qWarning("map page did not answer");
     return state;
 }
 
@@ -48,149 +47,142 @@ QJsonObject mapState(QWebEngineView& view) {
 class TestMapController : public QObject {
     Q_OBJECT
 private slots:
-    void moveCommandPutsLongitudeFirst();
-    void routeCollapsesRepeatsAndSkipsLeadingNoFix();
-    void commandsBeforeLoadAreQueuedAndBounded();
-    void pageShowsRouteAndFollowsTheCar();
-};
-
-void TestMapController::moveCommandPutsLongitudeFirst() {
-    QCOMPARE(MapController::moveScript(37.5f, 127.25f), QString("MapMoveToAuto(127.250000,37.500000,-1)"));
-    QCOMPARE(MapController::moveScript(-33.868820f, 151.209290f),
-             QString("MapMoveToAuto(151.209290,-33.868820,-1)"));
-    QCOMPARE(MapController::moveScript(48.1173f, -11.516667f),
-             QString("MapMoveToAuto(-11.516667,48.117298,-1)"));
-}
-
-void TestMapController::routeCollapsesRepeatsAndSkipsLeadingNoFix() {
-    QCOMPARE(MapController::routeScript(OrvoClipData()), QString("addPolyLine('', 'red', 4, 0.5)"));
-
-    const std::vector<Fix> fixes = {
-        {0, 0}, {0, 0},                // no fix yet: equal to the initial previous point
-        {37.5f, 127.25f}, {37.5f, 127.25f}, {37.5f, 127.25f},
-        {37.5f, 127.5f},
-        {37.5f, 127.25f},              // coming back is a new point
-        {0, 0},                        // losing the fix mid-route is a point too
-        {38.0f, 128.0f},
-    };
-    const QString all = MapController::routeScript(clipWithFixes(fixes, 9));
-    QCOMPARE(all, QString("addPolyLine('127.250000,37.500000|127.500000,37.500000|"
-                          "127.250000,37.500000|0.000000,0.000000|128.000000,38.000000', "
-                          "'red', 4, 0.5)"));
-
-    // Only the first gpsDataCount samples are walked, whatever lies beyond.
-    const QString head = MapController::routeScript(clipWithFixes(fixes, 4));
-    QCOMPARE(head, QString("addPolyLine('127.250000,37.500000', 'red', 4, 0.5)"));
-
-    // A count past the stored samples meets the no-position values, not garbage.
-    const QString past = MapController::routeScript(clipWithFixes({{1.0f, 2.0f}}, 3));
-    QCOMPARE(past, QString("addPolyLine('2.000000,1.000000|512.000000,512.000000', 'red', 4, 0.5)"));
-}
-
-void TestMapController::commandsBeforeLoadAreQueuedAndBounded() {
-    MapController controller(nullptr);
-    QVERIFY(!controller.isPageReady());
-    controller.removeMapLine();
-    controller.addRoute(clipWithFixes({{1, 2}, {3, 4}}, 2));
-    controller.moveToLatLng(1, 2);
-    controller.moveToLatLng(3, 4);
-    controller.load();
-    // initialize() first, then the route, then only the latest position.
-    QCOMPARE(controller.pendingScripts(),
-             QStringList({"initialize()", "removePolyLine()",
-                          "addPolyLine('2.000000,1.000000|4.000000,3.000000', 'red', 4, 0.5)",
-                          "MapMoveToAuto(4.000000,3.000000,-1)"}));
-
-    // A new clip's route replaces the queued one.
-    controller.removeMapLine();
-    controller.addRoute(clipWithFixes({{5, 6}}, 1));
-    QCOMPARE(controller.pendingScripts().size(), 4);
-    QCOMPARE(controller.pendingScripts().at(3), QString("addPolyLine('6.000000,5.000000', 'red', 4, 0.5)"));
-
-    // A page that never arrives cannot make the backlog grow without bound,
-    // and the set-up call survives the trimming.
-    for (int i = 0; i < 5000; ++i) {
-        controller.run(QStringLiteral("console.log(%1)").arg(i));
-        controller.moveToLatLng(10 + i * 0.001f, 20);
+    void moveCommandPutsLongitudeFirst() {
+        QCOMPARE(MapController::moveScript(37.5f, 127.25f), QString("MapMoveToAuto(127.250000,37.500000,-1)"));
+        QCOMPARE(MapController::moveScript(-33.868820f, 151.209290f),
+                 QString("MapMoveToAuto(151.209290,-33.868820,-1)"));
+        QCOMPARE(MapController::moveScript(48.1173f, -11.516667f),
+                 QString("MapMoveToAuto(-11.516667,48.117298,-1)"));
     }
-    QVERIFY(controller.pendingScripts().size() <= MapController::kMaxPendingScripts);
-    QCOMPARE(controller.pendingScripts().front(), QString("initialize()"));
-    QVERIFY(controller.pendingScripts().contains("console.log(4999)"));
-    QCOMPARE(controller.pendingScripts().filter("MapMoveToAuto").size(), 1);
-}
 
-void TestMapController::pageShowsRouteAndFollowsTheCar() {
-    QWebEngineView view;
-    view.resize(480, 360);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    void routeCollapsesRepeatsAndSkipsLeadingNoFix() {
+        QCOMPARE(MapController::routeScript(OrvoClipData()), polyLine(""));
 
-    MapController controller(&view);
-    QSignalSpy ready(&controller, &MapController::pageReady);
+        const std::vector<Fix> fixes = {
+            {0, 0}, {0, 0},                // no fix yet: equal to the initial previous point
+            {37.5f, 127.25f}, {37.5f, 127.25f}, {37.5f, 127.25f},
+            {37.5f, 127.5f},
+            {37.5f, 127.25f},              // coming back is a new point
+            {0, 0},                        // losing the fix mid-route is a point too
+            {38.0f, 128.0f},
+        };
+        QCOMPARE(MapController::routeScript(clipWithFixes(fixes, 9)),
+                 polyLine("127.250000,37.500000|127.500000,37.500000|127.250000,37.500000|0.000000,0.000000|"
+                          "128.000000,38.000000"));
 
-    // A short drive along a Seoul avenue, with a no-fix start and a stop.
-    std::vector<Fix> fixes = {{0, 0}, {0, 0}};
-    for (int i = 0; i < 60; ++i) {
-        const float step = static_cast<float>(i / 2);  // every position twice
-        fixes.push_back({37.5660f + step * 0.0002f, 126.9780f + step * 0.0003f});
+        // Only the first gpsDataCount samples are walked, whatever lies beyond.
+        QCOMPARE(MapController::routeScript(clipWithFixes(fixes, 4)), polyLine("127.250000,37.500000"));
+
+        // A count past the stored samples meets the no-position values, not garbage.
+        QCOMPARE(MapController::routeScript(clipWithFixes({{1.0f, 2.0f}}, 3)),
+                 polyLine("2.000000,1.000000|512.000000,512.000000"));
     }
-    const OrvoClipData drive = clipWithFixes(fixes, static_cast<int>(fixes.size()));
 
-    // The controller talks to the page before it has loaded; nothing may be lost.
-    controller.removeMapLine();
-    controller.addRoute(drive);
-    controller.moveToLatLng(fixes[2].lat, fixes[2].lng);
-    controller.load();
-    QVERIFY(ready.wait(20000) || ready.count() > 0);
-    QVERIFY(ready.front().front().toBool() && controller.isPageReady());
-    QVERIFY(controller.pendingScripts().isEmpty());
+    void commandsBeforeLoadAreQueuedAndBounded() {
+        MapController controller(nullptr);
+        QVERIFY(!controller.isPageReady());
+        controller.removeMapLine();
+        controller.addRoute(clipWithFixes({{1, 2}, {3, 4}}, 2));
+        controller.moveToLatLng(1, 2);
+        controller.moveToLatLng(3, 4);
+        controller.load();
+        // initialize() first, then the route, then only the latest position.
+        QCOMPARE(controller.pendingScripts(),
+                 QStringList({"initialize()", "removePolyLine()",
+                              polyLine("2.000000,1.000000|4.000000,3.000000"),
+                              "MapMoveToAuto(4.000000,3.000000,-1)"}));
 
-    QJsonObject state;
-    QTRY_VERIFY_WITH_TIMEOUT((state = mapState(view)).value("initialized").toBool(), 10000);
-    QVERIFY(state.value("scale").toBool());
-    QVERIFY(state.value("markerImage").toBool());
-    const QJsonArray route = state.value("route").toArray();
-    QCOMPARE(route.size(), 30);
-    // The route travels as text with six decimals, so float noise shows.
-    QVERIFY(qAbs(route.first().toArray().at(0).toDouble() - 37.566) < 1e-5);
-    QVERIFY(qAbs(route.first().toArray().at(1).toDouble() - 126.978) < 1e-5);
-    QVERIFY(qAbs(route.last().toArray().at(0).toDouble() - 37.5718) < 1e-5);
-    const QJsonObject style = state.value("routeStyle").toObject();
-    QCOMPARE(style, QJsonObject({{"color", "red"}, {"weight", 4}, {"opacity", 0.5}}));
-    QVERIFY(qAbs(state.value("marker").toObject().value("lat").toDouble() - 37.566) < 1e-5);
+        // A new clip's route replaces the queued one.
+        controller.removeMapLine();
+        controller.addRoute(clipWithFixes({{5, 6}}, 1));
+        QCOMPARE(controller.pendingScripts().size(), 4);
+        QCOMPARE(controller.pendingScripts().at(3), polyLine("6.000000,5.000000"));
 
-    // The car moves: the marker and the centre follow.
-    const Fix later = fixes.back();
-    controller.moveToLatLng(later.lat, later.lng);
-    QTRY_VERIFY_WITH_TIMEOUT(qAbs(mapState(view).value("marker").toObject().value("lng").toDouble() -
-                                  static_cast<double>(later.lng)) < 1e-5, 5000);
-    QTRY_VERIFY_WITH_TIMEOUT(qAbs(mapState(view).value("center").toObject().value("lat").toDouble() -
-                                  static_cast<double>(later.lat)) < 1e-5, 5000);
-
-    // A new clip without positions leaves no route behind.
-    controller.removeMapLine();
-    controller.addRoute(OrvoClipData());
-    QTRY_COMPARE_WITH_TIMEOUT(mapState(view).value("route").toArray().size(), 0, 5000);
-    controller.addRoute(drive);
-    QTRY_COMPARE_WITH_TIMEOUT(mapState(view).value("route").toArray().size(), 30, 5000);
-
-    // Without a network the page settles on its own background, route still drawn.
-    QTRY_VERIFY_WITH_TIMEOUT(mapState(view).value("offline").toBool() ||
-                                 mapState(view).value("tilesLoaded").toInt() > 0, 15000);
-    QTest::qWait(500);
-    const QImage shot = view.grab().toImage();
-    const QString path = QDir::current().absoluteFilePath("map.png");
-    QVERIFY(shot.save(path));
-    qInfo("map screenshot: %s", qPrintable(path));
-    // The route is drawn in translucent red over a light background.
-    int reddish = 0;
-    for (int y = 0; y < shot.height(); ++y)
-        for (int x = 0; x < shot.width(); ++x) {
-            const QColor c = shot.pixelColor(x, y);
-            reddish += c.red() > 200 && c.green() < 170 && c.blue() < 170;
+        // A page that never arrives cannot make the backlog grow without bound,
+        // and the set-up call survives the trimming.
+        for (int i = 0; i < 5000; ++i) {
+            controller.run(QStringLiteral("console.log(%1)").arg(i));
+            controller.moveToLatLng(10 + i * 0.001f, 20);
         }
-    QVERIFY2(reddish > 200, qPrintable(QString::number(reddish)));
-}
+        QVERIFY(controller.pendingScripts().size() <= MapController::kMaxPendingScripts);
+        QCOMPARE(controller.pendingScripts().front(), QString("initialize()"));
+        QVERIFY(controller.pendingScripts().contains("console.log(4999)"));
+        QCOMPARE(controller.pendingScripts().filter("MapMoveToAuto").size(), 1);
+    }
+
+    void pageShowsRouteAndFollowsTheCar() {
+        QWebEngineView view;
+        view.resize(480, 360);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+
+        MapController controller(&view);
+        QSignalSpy ready(&controller, &MapController::pageReady);
+
+        // A short drive along a Seoul avenue, with a no-fix start and a stop.
+        std::vector<Fix> fixes = {{0, 0}, {0, 0}};
+        for (int i = 0; i < 60; ++i) {
+            const float step = static_cast<float>(i / 2);  // every position twice
+            fixes.push_back({37.5660f + step * 0.0002f, 126.9780f + step * 0.0003f});
+        }
+        const OrvoClipData drive = clipWithFixes(fixes, static_cast<int>(fixes.size()));
+
+        // The controller talks to the page before it has loaded; nothing may be lost.
+        controller.removeMapLine();
+        controller.addRoute(drive);
+        controller.moveToLatLng(fixes[2].lat, fixes[2].lng);
+        controller.load();
+        QVERIFY(ready.wait(20000) || ready.count() > 0);
+        QVERIFY(ready.front().front().toBool() && controller.isPageReady());
+        QVERIFY(controller.pendingScripts().isEmpty());
+
+        QJsonObject state;
+        QTRY_VERIFY_WITH_TIMEOUT((state = mapState(view)).value("initialized").toBool(), 10000);
+        QVERIFY(state.value("scale").toBool());
+        QVERIFY(state.value("markerImage").toBool());
+        const QJsonArray route = state.value("route").toArray();
+        QCOMPARE(route.size(), 30);
+        // The route travels as text with six decimals, so float noise shows.
+        QVERIFY(qAbs(route.first().toArray().at(0).toDouble() - 37.566) < 1e-5);
+        QVERIFY(qAbs(route.first().toArray().at(1).toDouble() - 126.978) < 1e-5);
+        QVERIFY(qAbs(route.last().toArray().at(0).toDouble() - 37.5718) < 1e-5);
+        const QJsonObject style = state.value("routeStyle").toObject();
+        QCOMPARE(style, QJsonObject({{"color", "red"}, {"weight", 4}, {"opacity", 0.5}}));
+        QVERIFY(qAbs(state.value("marker").toObject().value("lat").toDouble() - 37.566) < 1e-5);
+
+        // The car moves: the marker and the centre follow.
+        const Fix later = fixes.back();
+        controller.moveToLatLng(later.lat, later.lng);
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(mapState(view).value("marker").toObject().value("lng").toDouble() -
+                                      static_cast<double>(later.lng)) < 1e-5, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(mapState(view).value("center").toObject().value("lat").toDouble() -
+                                      static_cast<double>(later.lat)) < 1e-5, 5000);
+
+        // A new clip without positions leaves no route behind.
+        controller.removeMapLine();
+        controller.addRoute(OrvoClipData());
+        QTRY_COMPARE_WITH_TIMEOUT(mapState(view).value("route").toArray().size(), 0, 5000);
+        controller.addRoute(drive);
+        QTRY_COMPARE_WITH_TIMEOUT(mapState(view).value("route").toArray().size(), 30, 5000);
+
+        // Without a network the page settles on its own background, route still drawn.
+        QTRY_VERIFY_WITH_TIMEOUT(mapState(view).value("offline").toBool() ||
+                                     mapState(view).value("tilesLoaded").toInt() > 0, 15000);
+        QTest::qWait(500);
+        const QImage shot = view.grab().toImage();
+        const QString path = QDir::current().absoluteFilePath("map.png");
+        QVERIFY(shot.save(path));
+        qInfo("map screenshot: %s", qPrintable(path));
+        // The route is drawn in translucent red over a light background.
+        int reddish = 0;
+        for (int y = 0; y < shot.height(); ++y)
+            for (int x = 0; x < shot.width(); ++x) {
+                const QColor c = shot.pixelColor(x, y);
+                reddish += c.red() > 200 && c.green() < 170 && c.blue() < 170;
+            }
+        QVERIFY2(reddish > 200, qPrintable(QString::number(reddish)));
+    }
+};
 
 QTEST_MAIN(TestMapController)
 #include "test_map_controller.moc"

@@ -54,136 +54,129 @@ class TestSpeedMeterView : public QObject {
     Q_OBJECT
 private slots:
     void init() { setUnit(0); }
-    void kilometresPerHour();
-    void milesPerHour();
-    void unitChangeRedrawsOnNotification();
-    void paintedDialFollowsSpeedAndUnit();
-    void missingArtworkStillShowsTheSpeed();
-    void dashboardScreenshot();
-};
+    void kilometresPerHour() {
+        SpeedMeterView view;
+        QCOMPARE(shown(view), QString("/0/-"));
+        QCOMPARE(shownFor(view, 8), QString("/0/-"));
+        QCOMPARE(shownFor(view, 9), QString("9/0/-"));
+        QCOMPARE(shownFor(view, 10), QString("10/1/-"));
+        // A zero tens digit still shows when there are hundreds.
+        QCOMPARE(shownFor(view, 105), QString("105/10/-"));
+        QCOMPARE(view.number10(), QString("0"));
+        QCOMPARE(shownFor(view, 239), QString("239/23/-"));
+        QCOMPARE(shownFor(view, 250), QString("250/24/-"));
+        // Three places only: the thousands are dropped, the gauge stays full.
+        QCOMPARE(shownFor(view, 1234), QString("234/24/-"));
+        QCOMPARE(view.speed(), 1234u);
+        // A slow speed clears every digit, not just the ones place.
+        QCOMPARE(shownFor(view, 3), QString("/0/-"));
+        QVERIFY(view.number100().isEmpty());
 
-void TestSpeedMeterView::kilometresPerHour() {
-    SpeedMeterView view;
-    QCOMPARE(shown(view), QString("/0/-"));
-    QCOMPARE(shownFor(view, 8), QString("/0/-"));
-    QCOMPARE(shownFor(view, 9), QString("9/0/-"));
-    QCOMPARE(shownFor(view, 10), QString("10/1/-"));
-    // A zero tens digit still shows when there are hundreds.
-    QCOMPARE(shownFor(view, 105), QString("105/10/-"));
-    QCOMPARE(view.number10(), QString("0"));
-    QCOMPARE(shownFor(view, 239), QString("239/23/-"));
-    QCOMPARE(shownFor(view, 250), QString("250/24/-"));
-    // Three places only: the thousands are dropped, the gauge stays full.
-    QCOMPARE(shownFor(view, 1234), QString("234/24/-"));
-    QCOMPARE(view.speed(), 1234u);
-    // A slow speed clears every digit, not just the ones place.
-    QCOMPARE(shownFor(view, 3), QString("/0/-"));
-    QVERIFY(view.number100().isEmpty());
-
-    view.setSpeedGauge(75);
-    QVERIFY(view.isGaugeSegmentVisible(1) && view.isGaugeSegmentVisible(7));
-    QVERIFY(!view.isGaugeSegmentVisible(8) && !view.isGaugeSegmentVisible(24));
-    view.setSpeedGauge(-15);
-    QCOMPARE(view.visibleGaugeSegmentCount(), 0);
-}
-
-void TestSpeedMeterView::milesPerHour() {
-    setUnit(1);
-    SpeedMeterView view;
-    QCOMPARE(shownFor(view, 100), QString("62/6/mph"));
-    QCOMPARE(view.speed(), 100u);
-    QCOMPARE(shownFor(view, 14), QString("9/0/mph"));
-    // The blank threshold is 9 km/h even when miles are shown.
-    QCOMPARE(shownFor(view, 8), QString("/0/mph"));
-    QCOMPARE(shownFor(view, 9), QString("6/0/mph"));
-    QCOMPARE(shownFor(view, 400), QString("249/24/mph"));
-    // The first-run 2 is km/h, as the unit menu marks it.
-    setUnit(2);
-    QCOMPARE(shownFor(view, 100), QString("100/10/-"));
-    setUnit(0);
-    QCOMPARE(shownFor(view, 100), QString("100/10/-"));
-}
-
-void TestSpeedMeterView::unitChangeRedrawsOnNotification() {
-    SpeedMeterView view;
-    view.setSpeed(100);
-    setUnit(1);
-    QCOMPARE(shown(view), QString("100/10/-"));  // nothing changes until told
-    NotificationCenter::shared().postRefreshSpeedUnit();
-    QCOMPARE(shown(view), QString("62/6/mph"));
-    QCOMPARE(view.speed(), 100u);
-    setUnit(0);
-    NotificationCenter::shared().postRefreshSpeedUnit();
-    QCOMPARE(shown(view), QString("100/10/-"));
-}
-
-void TestSpeedMeterView::paintedDialFollowsSpeedAndUnit() {
-    SpeedMeterView view;
-    view.resize(view.sizeHint());
-    const QRect all(QPoint(0, 0), view.size());
-    const QRect readout(57, 62, 66, 34);  // where the digits and the mph mark sit on the dial
-    const QRect unitMark(72, 111, 36, 16);
-    const QImage still = paint(view, 0);
-    QCOMPARE(changed(still, paint(view, 5), all), 0);
-    const QImage slow = paint(view, 60);
-    const QImage fast = paint(view, 200);
-    QVERIFY(changed(still, slow, readout) > 0);
-    QCOMPARE(changed(still, slow, unitMark), 0);
-    // Pixels outside the read-out are the segments: many more lit at 200 than at 60.
-    QVERIFY(changed(still, fast, all) - changed(still, fast, readout) >
-            2 * (changed(still, slow, all) - changed(still, slow, readout)));
-    setUnit(1);
-    const QImage miles = paint(view, 200);
-    QVERIFY(changed(fast, miles, unitMark) > 0);
-    QVERIFY(changed(fast, miles, readout) > 0);
-}
-
-void TestSpeedMeterView::missingArtworkStillShowsTheSpeed() {
-    const QStringList roots = ImageLibrary::searchRoots();
-    ImageLibrary::setSearchRoots({QDir::current().absoluteFilePath("no-artwork-here")});
-    SpeedMeterView view;
-    view.resize(120, 120);
-    const QImage still = paint(view, 0);
-    const QImage moving = paint(view, 130);
-    ImageLibrary::setSearchRoots(roots);
-    QVERIFY(moving.save(QDir::current().absoluteFilePath("speedometer-plain.png")));
-    QVERIFY(still != moving);
-    QVERIFY(still.pixel(60, 60) != qRgb(0, 0, 0));  // a plain dial face is drawn
-}
-
-void TestSpeedMeterView::dashboardScreenshot() {
-    QWidget panel;
-    panel.setStyleSheet("background: #1c1e22");
-    auto* layout = new QHBoxLayout(&panel);
-    // The graph is transparent; the window puts the backdrop behind it.
-    auto* backdrop = new QLabel;
-    backdrop->setPixmap(ImageLibrary::pixmap(images::kGravityGraphBackground));
-    backdrop->setFixedSize(300, 64);
-    auto* graph = new GravityGraphView(backdrop);
-    graph->setGeometry(0, 0, 300, 64);
-    auto* meter = new SpeedMeterView;
-    auto* milesMeter = new SpeedMeterView;
-    meter->setFixedSize(180, 180);
-    milesMeter->setFixedSize(150, 150);
-    layout->addWidget(backdrop);
-    layout->addWidget(meter);
-    layout->addWidget(milesMeter);
-
-    OrvoClipData drive;  // a brake, a bump and a turn
-    drive.setClipDataCount(300);
-    for (int i = 0; i < 300; ++i) {
-        drive.storeSample(i, i > 100 && i < 130 ? -220 + (i - 100) * 6 : i % 7 - 3,
-                          i > 200 && i < 240 ? 160 : i % 5 * 2, 128 + (i == 150 ? 170 : i % 3 * 4), 0, 0, 0);
+        view.setSpeedGauge(75);
+        QVERIFY(view.isGaugeSegmentVisible(1) && view.isGaugeSegmentVisible(7));
+        QVERIFY(!view.isGaugeSegmentVisible(8) && !view.isGaugeSegmentVisible(24));
+        view.setSpeedGauge(-15);
+        QCOMPARE(view.visibleGaugeSegmentCount(), 0);
     }
-    graph->setClipData(drive);
-    meter->setSpeed(87);
-    setUnit(1);  // the unit is taken when the speed is set, so the dials can differ
-    milesMeter->setSpeed(100);
 
-    const QString path = QDir::current().absoluteFilePath("dashboard.png");
-    QVERIFY(panel.grab().toImage().save(path));
-    qInfo("dashboard screenshot: %s", qPrintable(path));
-}
+    void milesPerHour() {
+        setUnit(1);
+        SpeedMeterView view;
+        QCOMPARE(shownFor(view, 100), QString("62/6/mph"));
+        QCOMPARE(view.speed(), 100u);
+        QCOMPARE(shownFor(view, 14), QString("9/0/mph"));
+        // The blank threshold is 9 km/h even when miles are shown.
+        QCOMPARE(shownFor(view, 8), QString("/0/mph"));
+        QCOMPARE(shownFor(view, 9), QString("6/0/mph"));
+        QCOMPARE(shownFor(view, 400), QString("249/24/mph"));
+        // The first-run 2 is km/h, as the unit menu marks it.
+        setUnit(2);
+        QCOMPARE(shownFor(view, 100), QString("100/10/-"));
+        setUnit(0);
+        QCOMPARE(shownFor(view, 100), QString("100/10/-"));
+    }
+
+    void unitChangeRedrawsOnNotification() {
+        SpeedMeterView view;
+        view.setSpeed(100);
+        setUnit(1);
+        QCOMPARE(shown(view), QString("100/10/-"));  // nothing changes until told
+        NotificationCenter::shared().postRefreshSpeedUnit();
+        QCOMPARE(shown(view), QString("62/6/mph"));
+        QCOMPARE(view.speed(), 100u);
+        setUnit(0);
+        NotificationCenter::shared().postRefreshSpeedUnit();
+        QCOMPARE(shown(view), QString("100/10/-"));
+    }
+
+    void paintedDialFollowsSpeedAndUnit() {
+        SpeedMeterView view;
+        view.resize(view.sizeHint());
+        const QRect all(QPoint(0, 0), view.size());
+        const QRect readout(57, 62, 66, 34);  // where the digits and the mph mark sit on the dial
+        const QRect unitMark(72, 111, 36, 16);
+        const QImage still = paint(view, 0);
+        QCOMPARE(changed(still, paint(view, 5), all), 0);
+        const QImage slow = paint(view, 60);
+        const QImage fast = paint(view, 200);
+        QVERIFY(changed(still, slow, readout) > 0);
+        QCOMPARE(changed(still, slow, unitMark), 0);
+        // Pixels outside the read-out are the segments: many more lit at 200 than at 60.
+        QVERIFY(changed(still, fast, all) - changed(still, fast, readout) >
+                2 * (changed(still, slow, all) - changed(still, slow, readout)));
+        setUnit(1);
+        const QImage miles = paint(view, 200);
+        QVERIFY(changed(fast, miles, unitMark) > 0);
+        QVERIFY(changed(fast, miles, readout) > 0);
+    }
+
+    void missingArtworkStillShowsTheSpeed() {
+        const QStringList roots = ImageLibrary::searchRoots();
+        ImageLibrary::setSearchRoots({QDir::current().absoluteFilePath("no-artwork-here")});
+        SpeedMeterView view;
+        view.resize(120, 120);
+        const QImage still = paint(view, 0);
+        const QImage moving = paint(view, 130);
+        ImageLibrary::setSearchRoots(roots);
+        QVERIFY(moving.save(QDir::current().absoluteFilePath("speedometer-plain.png")));
+        QVERIFY(still != moving);
+        QVERIFY(still.pixel(60, 60) != qRgb(0, 0, 0));  // a plain dial face is drawn
+    }
+
+    void dashboardScreenshot() {
+        QWidget panel;
+        panel.setStyleSheet("background: #1c1e22");
+        auto* layout = new QHBoxLayout(&panel);
+        // The graph is transparent; the window puts the backdrop behind it.
+        auto* backdrop = new QLabel;
+        backdrop->setPixmap(ImageLibrary::pixmap(images::kGravityGraphBackground));
+        backdrop->setFixedSize(300, 64);
+        auto* graph = new GravityGraphView(backdrop);
+        graph->setGeometry(0, 0, 300, 64);
+        auto* meter = new SpeedMeterView;
+        auto* milesMeter = new SpeedMeterView;
+        meter->setFixedSize(180, 180);
+        milesMeter->setFixedSize(150, 150);
+        layout->addWidget(backdrop);
+        layout->addWidget(meter);
+        layout->addWidget(milesMeter);
+
+        OrvoClipData drive;  // a brake, a bump and a turn
+        drive.setClipDataCount(300);
+        for (int i = 0; i < 300; ++i) {
+            drive.storeSample(i, i > 100 && i < 130 ? -220 + (i - 100) * 6 : i % 7 - 3,
+                              i > 200 && i < 240 ? 160 : i % 5 * 2, 128 + (i == 150 ? 170 : i % 3 * 4), 0, 0, 0);
+        }
+        graph->setClipData(drive);
+        meter->setSpeed(87);
+        setUnit(1);  // the unit is taken when the speed is set, so the dials can differ
+        milesMeter->setSpeed(100);
+
+        const QString path = QDir::current().absoluteFilePath("dashboard.png");
+        QVERIFY(panel.grab().toImage().save(path));
+        qInfo("dashboard screenshot: %s", qPrintable(path));
+    }
+};
 
 QTEST_MAIN(TestSpeedMeterView)
 #include "test_speed_meter_view.moc"
