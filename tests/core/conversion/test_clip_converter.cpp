@@ -198,10 +198,8 @@ TEST_F(ConversionTest, BadClipsGiveEmptyListsAndNoHang) {
     std::ofstream(card / "empty.mp4");
     std::ofstream(card / "empty.avi");
     std::ofstream(card / "junk.avi") << std::string(4096, '\x5a');
-    EXPECT_EQ(conv.checkAndConvertVideo((card / "empty.mp4").string()), std::vector<std::string>{});
-    EXPECT_EQ(conv.checkAndConvertVideo((card / "empty.avi").string()), std::vector<std::string>{});
-    EXPECT_EQ(conv.checkAndConvertVideo((card / "junk.avi").string()), std::vector<std::string>{});
-    EXPECT_EQ(conv.checkAndConvertVideo((card / "missing.mp4").string()), std::vector<std::string>{});
+    for (const char* name : {"empty.mp4", "empty.avi", "junk.avi", "missing.mp4"})
+        EXPECT_EQ(conv.checkAndConvertVideo((card / name).string()), std::vector<std::string>{}) << name;
 
     fs::path mp4 = makeClip("trunc.mp4");
     fs::resize_file(mp4, fs::file_size(mp4) / 2);
