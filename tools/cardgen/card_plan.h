@@ -3,6 +3,7 @@
 // and the camera model whose settings files are written under SETTING.
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -51,8 +52,12 @@ struct CardOptions {
 // clip, and files a scan must ignore.
 CardPlan demoCardPlan(const CardOptions& options = {});
 
+// Told before each clip is written: its place in the plan, the plan's size, its path.
+using CardProgress = std::function<void(std::size_t index, std::size_t count, const std::string& relPath)>;
+
 // Writes the whole card below root. Returns false with a message on failure.
-bool writeCard(const CardPlan& plan, const std::filesystem::path& root, std::string* error = nullptr);
+bool writeCard(const CardPlan& plan, const std::filesystem::path& root, std::string* error = nullptr,
+               const CardProgress& progress = {});
 
 // Writes one clip with its telemetry (telemetry_writers.cpp).
 bool writeClip(const ClipPlan& clip, const std::filesystem::path& out, std::string* log = nullptr);

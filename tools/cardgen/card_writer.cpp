@@ -6,10 +6,12 @@ namespace tarvik::cardgen {
 
 namespace fs = std::filesystem;
 
-bool writeCard(const CardPlan& plan, const fs::path& root, std::string* error) {
+bool writeCard(const CardPlan& plan, const fs::path& root, std::string* error, const CardProgress& progress) {
     std::error_code ec;
     fs::create_directories(root, ec);
-    for (const auto& clip : plan.clips) {
+    for (std::size_t i = 0; i < plan.clips.size(); ++i) {
+        const ClipPlan& clip = plan.clips[i];
+        if (progress) progress(i, plan.clips.size(), clip.relPath);
         std::string log;
         if (!writeClip(clip, root / clip.relPath, &log)) {
             if (error) *error = "could not write " + clip.relPath + ": " + log;

@@ -25,7 +25,12 @@ int main(int argc, char** argv) {
         return 2;
     }
     std::string error;
-    if (!tarvik::cardgen::writeCard(tarvik::cardgen::demoCardPlan(options), out, &error)) {
+    // Making the clips takes a minute: show how far it has got.
+    auto progress = [](std::size_t i, std::size_t n, const std::string& path) {
+        std::printf("[%zu/%zu] %s\n", i + 1, n, path.c_str());
+        std::fflush(stdout);
+    };
+    if (!tarvik::cardgen::writeCard(tarvik::cardgen::demoCardPlan(options), out, &error, progress)) {
         std::fprintf(stderr, "%s\n", error.c_str());
         return 1;
     }
