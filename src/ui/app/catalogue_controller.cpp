@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QItemSelectionModel>
 #include <QLabel>
+#include <QShortcut>
 #include <QTableView>
 
 #include "ui/app/clip_list_model.h"
@@ -34,8 +35,16 @@ CatalogueController::CatalogueController(const MainWindowViews& views, QObject* 
     connect(v_.fileListRemoveButton_OEM, &QAbstractButton::clicked, this,
             &CatalogueController::removeFileButtonTouched);
     connect(v_.fileListTableView, &QTableView::doubleClicked, this, &CatalogueController::videoFileListDoubleClicked);
-    // Keyboard users open a clip with Enter on the list, as a double-click does.
+    // Keyboard users open a clip with Enter on the list, as a double-click does,
+    // choose a folder with Ctrl+O and a recording type with Ctrl+1 to Ctrl+5.
     connect(v_.fileListTableView, &QTableView::activated, this, &CatalogueController::videoFileListDoubleClicked);
+    auto* open = new QShortcut(QKeySequence::Open, v_.mainWindow);
+    connect(open, &QShortcut::activated, this, &CatalogueController::selectFolderButtonTouched);
+    for (int i = 0; i < 5; ++i) {
+        auto* key = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i)), v_.mainWindow);
+        ImageButton* b = filterButtons_[i];
+        connect(key, &QShortcut::activated, this, [this, b] { videoFileFilterTouched(b); });
+    }
     model_->reload();
 }
 
@@ -95,7 +104,10 @@ void CatalogueController::videoFileFilterTouched(QObject* button) {
 }
 
 void CatalogueController::applyLanguageSettings() {
-    for (int i = 0; i < 5; ++i) filterButtons_[i]->setText(tr_k(kFilterKeys[i]));
+    for (int i = 0; i < 5; ++i) {
+        filterButtons_[i]->setText(tr_k(kFilterKeys[i]));
+        filterButtons_[i]->setToolTip(QString("%1 (Ctrl+%2)").arg(tr_k(kFilterKeys[i])).arg(i + 1));
+    }
     v_.selectFolderButton->setToolTip(tr_k("열기"));
 }
 

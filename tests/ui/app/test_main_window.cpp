@@ -1,6 +1,7 @@
 // The main window's own behaviour: its key table, the centring of the tool
 // bar and dashboard, the clip list wired to the catalogue, and the menus.
 #include <QAction>
+#include <QShortcut>
 #include <QSettings>
 #include <QFile>
 #include <QLabel>
@@ -133,6 +134,16 @@ private slots:
         QVERIFY(!v.fileListEventButton_OEM->allowAutoMouseEventImage());
         QCOMPARE(v.fileListAllButton_OEM->imageName(), QString("sorting_btn_60_1"));
         QTest::mouseClick(v.fileListManualButton_OEM, Qt::LeftButton);
+        QCOMPARE(names(), (QStringList{"C.mov"}));
+        // The same filters from the keyboard (the test X server has no window
+        // manager to make the window active, so the shortcuts are fired directly).
+        auto press = [&](QKeySequence keys) {
+            for (QShortcut* s : v.mainWindow->findChildren<QShortcut*>())
+                if (s->key() == keys) emit s->activated();
+        };
+        press(QKeySequence(Qt::CTRL | Qt::Key_2));
+        QCOMPARE(names(), (QStringList{"B_F.mp4", "B_R.mp4"}));
+        press(QKeySequence(Qt::CTRL | Qt::Key_5));
         QCOMPARE(names(), (QStringList{"C.mov"}));
 
         // Removing the only clip of the list deletes the file and disables remove and save.
