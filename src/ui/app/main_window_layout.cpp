@@ -197,8 +197,8 @@ void buildToolbar(MainWindowViews& v, QWidget* window) {
     v.playTimeTextField->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     v.playTimeTextField->setStyleSheet("font-family: monospace; font-size: 13px; color: white;");
 
-    struct Spec { ImageButton** field; const char* image; const char* name; int x; };
-    const Spec specs[] = {
+    struct ButtonPlace { ImageButton** field; const char* image; const char* name; int x; };
+    const ButtonPlace places[] = {
         {&v.playPrevFileButton, "prev_file_btn_1", "playPrevFileButton", 30},
         {&v.rewindButton, "rewind_btn_1", "rewindButton", 66},
         {&v.playPauseButton, "play_1", "playPauseButton", 102},
@@ -215,7 +215,7 @@ void buildToolbar(MainWindowViews& v, QWidget* window) {
         {&v.fullscreenButton, "fullscreen_btn_1", "fullscreenButton", 558},
         {&v.muteButton, "volume1", "muteButton", 820},
     };
-    for (const Spec& s : specs) {
+    for (const ButtonPlace& s : places) {
         *s.field = button(t, s.image, s.name, QSize(32, 32));
         (*s.field)->move(s.x, 24);
     }
