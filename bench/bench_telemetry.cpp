@@ -125,6 +125,10 @@ const fs::path& generalAvi() {
     static fs::path p = makeAvi("general.avi", binaryChunks(driveSeconds(0, kSeconds, 30, quantizeGeneralBinary), "02tx", false));
     return p;
 }
+const fs::path& krtAvi() {
+    static fs::path p = makeAvi("krt.avi", binaryChunks(driveSeconds(0, kSeconds, 20, quantizeKrtBinary), "02tx", true));
+    return p;
+}
 const fs::path& recordsAvi() {
     static fs::path p = makeAvi("records.avi", textRecordChunks(driveSeconds(0, kSeconds, 10, quantizeText), "03tx", true));
     return p;
@@ -191,7 +195,7 @@ void BM_ChunkWalkGeneral_1GiB(benchmark::State& state) {
 }
 // The KRT reader finds no reading it accepts here, so it walks every header to the end.
 void BM_ChunkWalkKrt_1GiB(benchmark::State& state) {
-    compareWithRead(state, generalAvi(), [](OrvoClipData& d) { return d.getAllDataFromFile_KRT(generalAvi().c_str()); });
+    compareWithRead(state, krtAvi(), [](OrvoClipData& d) { return d.getAllDataFromFile_KRT(krtAvi().c_str()); });
 }
 void BM_TextRecordScan_1GiB(benchmark::State& state) {
     compareWithRead(state, recordsAvi(), [](OrvoClipData& d) { return d.getM420AllDataFromFile(recordsAvi().string()); });
