@@ -92,6 +92,9 @@ MpvPlayer::MpvPlayer(QObject* parent) : QObject(parent) {
         {"load-scripts", "no"},   {"ytdl", "no"},         {"osc", "no"},
         {"input-default-bindings", "no"}, {"input-vo-keyboard", "no"}, {"terminal", "no"},
         {"hwdec", "no"},          {"gpu-hwdec-interop", "no"},          {"sub-auto", "no"},     {"audio-file-auto", "no"},
+        // The desktop's sound servers, then silence. mpv's own probe would go on to
+        // SDL, whose audio layer crashes in a session without a sound device.
+        {"ao", "pipewire,pulse,alsa,null"},
     };
     for (const auto& [name, value] : options) mpv_set_option_string(mpv_, name, value);
     if (mpv_initialize(mpv_) < 0) {
