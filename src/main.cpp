@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 #include <clocale>
+#include <unistd.h>
 
 #include "core/app/viewer_preferences.h"
 #include "core/library/conversion/utils.h"
@@ -19,6 +20,10 @@
 #endif
 
 int main(int argc, char** argv) {
+    // The web engine's sandbox cannot run for the superuser and the engine
+    // would abort instead; the map page is our own, so run it unsandboxed then.
+    if (geteuid() == 0 && qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX"))
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     // The players draw in their own GL contexts and hand textures to the window's.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
