@@ -26,15 +26,17 @@ CardPlan demoCardPlan(const CardOptions& o) {
         plan.clips.push_back({std::move(path), v, t, drive});
         drive += static_cast<int>(o.seconds);
     };
+    // Front and rear cameras of one recording saw the same stretch of the drive.
+    auto addPair = [&](const std::string& stem) {
+        const int start = drive;
+        add(stem + "_F.mp4", frontAudio, T::SrtTrack);
+        plan.clips.push_back({stem + "_R.mp4", rear, T::SrtTrack, start});
+    };
 
     // Continuous recording: front/rear MP4 pairs carrying a subtitle track,
     // a two-stream AVI, and a day folder below.
-    add("cont_rec/20261121_083000_F.mp4", frontAudio, T::SrtTrack);
-    drive -= static_cast<int>(o.seconds);  // the rear camera saw the same drive
-    add("cont_rec/20261121_083000_R.mp4", rear, T::SrtTrack);
-    add("cont_rec/20261121_083100_F.mp4", frontAudio, T::SrtTrack);
-    drive -= static_cast<int>(o.seconds);
-    add("cont_rec/20261121_083100_R.mp4", rear, T::SrtTrack);
+    addPair("cont_rec/20261121_083000");
+    addPair("cont_rec/20261121_083100");
     add("cont_rec/20261121_083200.avi", twin, T::TextRecords);
     add("cont_rec/2026_11_20/20261120_171500.avi", front, T::AviChunks);
     add("cont_rec/2026_11_20/evening/20261120_171600.mov", front, T::TailText);
@@ -44,9 +46,7 @@ CardPlan demoCardPlan(const CardOptions& o) {
     // One clip in every other recording folder.
     add("motion_rec/20261121_084500.avi", front, T::AviChunks);
     add("motion_timelapse_rec/20261121_230000.mp4", front, T::SrtTrack);
-    add("evt_rec/20261121_083215_F.mp4", frontAudio, T::SrtTrack);
-    drive -= static_cast<int>(o.seconds);
-    add("evt_rec/20261121_083215_R.mp4", rear, T::SrtTrack);
+    addPair("evt_rec/20261121_083215");
     add("parking_rec/20261121_221000.avi", front, T::AviChunks);
     add("manual_rec/20261121_090000.avi", front, T::TextRecords);
     add("manual_rec/2026_11_21/20261121_091500.mov", front, T::TailText);

@@ -13,8 +13,6 @@ namespace tarvik::readers {
 
 namespace {
 
-constexpr std::size_t kBlock = 4u << 20;
-
 // Walks an SRT text cue by cue the lenient way: white space between the parts
 // of a cue is skipped, the body runs up to the next empty line.
 class CueScanner {
@@ -188,15 +186,7 @@ int readSrtCues(const MappedFile& file, OrvoClipData& out) {
     out.setGpsDataCount(0);
     const unsigned char* d = file.data();
     const std::size_t n = file.size();
-    if (n == 0) return 0;
-    for (std::size_t b = 0; b < n;) {
-        std::size_t e = std::min(n, b + kBlock);
-        while (e < n && (d[e] & 0xC0) == 0x80) ++e;
-        file.scannedUpTo(b);
-        if (!text::isValidUtf8(d + b, e - b)) return 0;
-        file.scannedUpTo(e);
-        b = e;
-    }
+    if (n == 0 || !text::isValidUtf8(file, 0)) return 0;
     auto scan = std::make_unique<SrtScan>(file, std::string_view(reinterpret_cast<const char*>(d), n));
     return scan->run(out);
 }

@@ -14,7 +14,6 @@ constexpr char kMarker[] = "QZRVT7";
 constexpr std::size_t kMarkerLen = 6;
 // The marker is looked for only this close to the end of the file.
 constexpr std::size_t kTailWindow = 33006;
-constexpr std::size_t kBlock = 4u << 20;
 
 std::size_t textStart(const unsigned char* d, std::size_t n) {
     if (n < kTailWindow) return kMarkerLen;
@@ -37,15 +36,7 @@ int readTailText(const MappedFile& file, OrvoClipData& out) {
     if (from >= n) return 0;
 
     // The whole text has to be valid UTF-8 before any line counts.
-    for (std::size_t b = from; b < n;) {
-        std::size_t e = std::min(n, b + kBlock);
-        // Do not cut a multi-byte sequence in two: extend the block to the next lead byte.
-        while (e < n && (d[e] & 0xC0) == 0x80) ++e;
-        file.scannedUpTo(b);
-        if (!text::isValidUtf8(d + b, e - b)) return 0;
-        file.scannedUpTo(e);
-        b = e;
-    }
+    if (!text::isValidUtf8(file, from)) return 0;
 
     std::string_view txt(reinterpret_cast<const char*>(d + from), n - from);
     std::vector<std::string_view> f;

@@ -1,8 +1,11 @@
 #include "core/telemetry/text_fields.h"
 
+#include <algorithm>
 #include <charconv>
 #include <climits>
 #include <cmath>
+
+#include "core/util/mapped_file.h"
 
 namespace tarvik::text {
 
@@ -136,6 +139,21 @@ bool isValidUtf8(const unsigned char* p, std::size_t n) {
 std::int64_t truncToInt64(double v) {
     if (!(v > -9.2e18 && v < 9.2e18)) return 0;
     return static_cast<std::int64_t>(v);
+}
+
+bool isValidUtf8(const MappedFile& file, std::size_t from) {
+    constexpr std::size_t kBlock = 4u << 20;
+    const unsigned char* d = file.data();
+    const std::size_t n = file.size();
+    for (std::size_t b = from; b < n;) {
+        std::size_t e = std::min(n, b + kBlock);
+        while (e < n && (d[e] & 0xC0) == 0x80) ++e;  // extend to the next lead byte
+        file.scannedUpTo(b);
+        if (!isValidUtf8(d + b, e - b)) return false;
+        file.scannedUpTo(e);
+        b = e;
+    }
+    return true;
 }
 
 }  // namespace tarvik::text
