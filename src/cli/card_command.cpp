@@ -10,31 +10,10 @@
 #include "core/settings/krt/krt_setting_manager.h"
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/m420/m420_setting_manager.h"
+#include "core/settings/profile/json_value.h"
 #include "core/util/atomic_file.h"
 
 namespace tarvik::cli {
-
-namespace {
-
-std::string jsonString(const std::string& s) {
-    std::string out = "\"";
-    for (unsigned char c : s) {
-        if (c == '"' || c == '\\') {
-            out += '\\';
-            out += static_cast<char>(c);
-        } else if (c < 0x20) {
-            char buf[8];
-            std::snprintf(buf, sizeof buf, "\\u%04x", c);
-            out += buf;
-        } else {
-            out += static_cast<char>(c);
-        }
-    }
-    return out + "\"";
-}
-
-
-}  // namespace
 
 int cardCommand(int argc, char** argv) {
     std::string path;
@@ -94,15 +73,15 @@ int cardCommand(int argc, char** argv) {
     if (json) {
         std::printf("{\n  \"path\": %s,\n  \"model_type\": %lld,\n  \"model_name\": %s,\n  \"firmware_version\": %s,\n"
                     "  \"firmware_number\": %d,\n  \"region\": %lld,\n  \"languages\": [",
-                    jsonString(path).c_str(), static_cast<long long>(type), jsonString(name).c_str(),
-                    jsonString(m.version()).c_str(), m.firmwareVersionInt(), static_cast<long long>(m.localID()));
+                    jsonQuote(path).c_str(), static_cast<long long>(type), jsonQuote(name).c_str(),
+                    jsonQuote(m.version()).c_str(), m.firmwareVersionInt(), static_cast<long long>(m.localID()));
         for (std::size_t i = 0; i < m.languages().size(); ++i)
             std::printf("%s{\"index\": %d, \"code\": %s}", i ? ", " : "", m.languages()[i].first,
-                        jsonString(m.languages()[i].second).c_str());
+                        jsonQuote(m.languages()[i].second).c_str());
         std::printf("],\n  \"fields\": {");
         for (std::size_t i = 0; i < fields.size(); ++i)
-            std::printf("%s\n    %s: %s", i ? "," : "", jsonString(fields[i].first).c_str(),
-                        numeric[i] ? fields[i].second.c_str() : jsonString(fields[i].second).c_str());
+            std::printf("%s\n    %s: %s", i ? "," : "", jsonQuote(fields[i].first).c_str(),
+                        numeric[i] ? fields[i].second.c_str() : jsonQuote(fields[i].second).c_str());
         std::printf("%s}\n}\n", fields.empty() ? "" : "\n  ");
     } else {
         std::printf("path=%s\nmodel_type=%lld\nmodel_name=%s\nfirmware_version=%s\nfirmware_number=%d\nregion=%lld\n",

@@ -5,5 +5,6 @@ namespace tarvik::cli {
 
 int telemetryCommand(int argc, char** argv);
 int cardCommand(int argc, char** argv);
+int settingsCommand(int argc, char** argv);
 
 }  // namespace tarvik::cli

@@ -1,0 +1,142 @@
+// tarvik settings: a camera's settings from a terminal. Shows them, changes
+// them, and copies one camera's settings to a fleet of cards through a
+// profile. Every value is checked before anything is written, and a card is
+// written in one atomic step or not at all.
+
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "cli/commands.h"
+#include "core/settings/profile/card_settings.h"
+#include "core/settings/profile/json_value.h"
+#include "core/settings/profile/settings_edit.h"
+#include "core/settings/profile/settings_profile.h"
+
+namespace tarvik::cli {
+
+namespace {
+
+int usage() {
+    std::fprintf(stderr,
+                 "usage: tarvik settings CARD [--json]\n"
+                 "       tarvik settings CARD set [--dry-run] NAME=VALUE...\n"
+                 "       tarvik settings CARD export > PROFILE.json\n"
+                 "       tarvik settings apply [--dry-run] PROFILE.json CARD...\n");
+    return 2;
+}
+
+std::optional<CardSettings> open(const std::string& root) {
+    std::string error;
+    auto card = readCardSettings(root, &error);
+    if (!card) std::fprintf(stderr, "tarvik settings: %s\n", error.c_str());
+    return card;
+}
+
+void show(const CardSettings& c, bool json) {
+    if (!json) {
+        std::printf("model=%s\nmodel_type=%lld\nfirmware_version=%s\nregion=%lld\nlanguages=", c.modelName.c_str(),
+                    static_cast<long long>(c.modelType), c.firmware.c_str(), static_cast<long long>(c.region));
+        for (std::size_t i = 0; i < c.languages.size(); ++i)
+            std::printf("%s%d:%s", i ? " " : "", c.languages[i].first, c.languages[i].second.c_str());
+        std::printf("\n");
+        for (const auto& f : c.fields) std::printf("%s=%s\n", f.name.c_str(), f.value.c_str());
+        return;
+    }
+    std::printf("{\n  \"path\": %s,\n  \"model\": %s,\n  \"model_type\": %lld,\n  \"firmware_version\": %s,\n"
+                "  \"region\": %lld,\n  \"languages\": [",
+                jsonQuote(c.root).c_str(), jsonQuote(c.modelName).c_str(), static_cast<long long>(c.modelType),
+                jsonQuote(c.firmware).c_str(), static_cast<long long>(c.region));
+    for (std::size_t i = 0; i < c.languages.size(); ++i)
+        std::printf("%s{\"index\": %d, \"code\": %s}", i ? ", " : "", c.languages[i].first,
+                    jsonQuote(c.languages[i].second).c_str());
+    std::printf("],\n  \"settings\": {");
+    for (std::size_t i = 0; i < c.fields.size(); ++i)
+        std::printf("%s\n    %s: %s", i ? "," : "", jsonQuote(c.fields[i].name).c_str(),
+                    c.fields[i].numeric ? c.fields[i].value.c_str() : jsonQuote(c.fields[i].value).c_str());
+    std::printf("%s}\n}\n", c.fields.empty() ? "" : "\n  ");
+}
+
+// Plans and (unless dry) writes; the one line of result is the caller's.
+bool edit(const CardSettings& card, const std::vector<SettingAssignment>& set, bool dry, std::string* summary) {
+    std::string error;
+    const auto plan = planSettingsEdit(card, set, &error);
+    if (!plan || (!dry && !commitSettingsEdit(card, *plan, &error))) {
+        *summary = "refused: " + error;
+        return false;
+    }
+    *summary = (dry ? "would change " : "changed ") + std::to_string(plan->changes.size()) + " setting" +
+               (plan->changes.size() == 1 ? "" : "s");
+    for (const auto& c : plan->changes) *summary += "\n  " + c.name + ": " + c.from + " -> " + c.to;
+    return true;
+}
+
+int setCommand(const CardSettings& card, int argc, char** argv) {
+    bool dry = false;
+    std::vector<SettingAssignment> set;
+    for (int i = 0; i < argc; ++i) {
+        const char* eq = std::strchr(argv[i], '=');
+        if (!std::strcmp(argv[i], "--dry-run")) dry = true;
+        else if (eq && eq != argv[i]) set.push_back({std::string(argv[i], static_cast<std::size_t>(eq - argv[i])), std::string(eq + 1)});
+        else return usage();
+    }
+    if (set.empty()) return usage();
+    std::string summary;
+    const bool ok = edit(card, set, dry, &summary);
+    std::printf("%s: %s\n", card.root.c_str(), summary.c_str());
+    return ok ? 0 : 1;
+}
+
+int applyCommand(int argc, char** argv) {
+    bool dry = false;
+    std::vector<std::string> args;
+    for (int i = 0; i < argc; ++i) {
+        if (!std::strcmp(argv[i], "--dry-run")) dry = true;
+        else args.emplace_back(argv[i]);
+    }
+    if (args.size() < 2) return usage();
+    std::string error;
+    const auto profile = readSettingsProfile(args[0], &error);
+    if (!profile) {
+        std::fprintf(stderr, "tarvik settings: %s\n", error.c_str());
+        return 1;
+    }
+    int failures = 0;
+    for (std::size_t i = 1; i < args.size(); ++i) {
+        std::string summary;
+        const auto card = readCardSettings(args[i], &error);
+        bool ok = false;
+        if (!card) summary = "refused: " + error;
+        else if (const auto why = profileMismatch(*profile, *card)) summary = "refused: " + *why;
+        else ok = edit(*card, profile->settings, dry, &summary);
+        failures += ok ? 0 : 1;
+        std::printf("%s: %s\n", args[i].c_str(), summary.c_str());
+    }
+    return failures ? 1 : 0;
+}
+
+}  // namespace
+
+int settingsCommand(int argc, char** argv) {
+    if (argc < 2) return usage();
+    if (!std::strcmp(argv[1], "apply")) return applyCommand(argc - 2, argv + 2);
+    const std::string root = argv[1];
+    const char* action = argc > 2 ? argv[2] : "";
+    if (!*action || !std::strcmp(action, "--json")) {
+        if (argc > 3) return usage();
+        const auto card = open(root);
+        if (!card) return 1;
+        show(*card, *action != '\0');
+        return 0;
+    }
+    if (std::strcmp(action, "set") && std::strcmp(action, "export")) return usage();
+    const auto card = open(root);
+    if (!card) return 1;
+    if (!std::strcmp(action, "set")) return setCommand(*card, argc - 3, argv + 3);
+    if (argc > 3) return usage();
+    std::fputs(exportSettingsProfile(*card).c_str(), stdout);
+    return 0;
+}
+
+}  // namespace tarvik::cli

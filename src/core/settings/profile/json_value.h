@@ -1,0 +1,34 @@
+#pragma once
+// The little JSON a settings profile needs: objects, arrays, strings, whole
+// numbers, true, false and null. Bounded on purpose, since a profile comes
+// from anyone: nesting, length and numbers have limits, and a breach is an
+// error, never a crash or a huge allocation.
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarvik {
+
+struct JsonValue {
+    enum class Kind { Null, Bool, Number, String, Array, Object } kind = Kind::Null;
+    bool boolean = false;
+    std::int64_t number = 0;
+    std::string text;
+    std::vector<JsonValue> items;
+    std::vector<std::pair<std::string, JsonValue>> members;  // in document order
+
+    const JsonValue* member(const std::string& key) const;
+};
+
+inline constexpr int kMaxJsonDepth = 8;
+
+std::optional<JsonValue> parseJson(const std::string& text, std::string* error);
+
+// A JSON string literal for s.
+std::string jsonQuote(const std::string& s);
+
+}  // namespace tarvik
