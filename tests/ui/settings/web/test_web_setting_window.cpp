@@ -16,6 +16,7 @@
 
 #include "core/l10n/language_code.h"
 #include "core/settings/m420/settings_alert_sink.h"
+#include "ui/app/prefs/qsettings_store.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/settings/web/web_setting_window_controller.h"
 
@@ -136,7 +137,10 @@ class TestWebSettingWindow : public QObject {
     RecordingSink sink_;
 
 private slots:
-    void initTestCase() { setSettingsAlertSink(&sink_); }
+    void initTestCase() {
+        setSettingsAlertSink(&sink_);
+        QSettingsStore::shared().setStringList("AppleLanguages", {"en"});
+    }
     void cleanupTestCase() { setSettingsAlertSink(nullptr); }
 
     void connectsAnswersQuestionsResistsThePageAndSaves() {
@@ -207,6 +211,8 @@ private slots:
         QCOMPARE(js(w, "JSON.stringify(attack)").toString(),
                  QString(R"({"passwd":"blocked","own":"camera page data","popup":"blocked","http":"blocked","img":"blocked","done":true})"));
         QCOMPARE(connections, 0);
+        QDirIterator downloads(QDir::homePath(), {"stolen*"}, QDir::Files, QDirIterator::Subdirectories);
+        QVERIFY(!downloads.hasNext());
         QCOMPARE(received(w).size(), before);  // same document, nothing reloaded
         QVERIFY(w->webView()->url().toLocalFile().endsWith("/my card  2/SETTING/html/index.html"));
 
