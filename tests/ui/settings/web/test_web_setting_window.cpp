@@ -201,6 +201,7 @@ private slots:
         QVERIFY(waitReceived(w, "cancel:4"));
 
         // The page reaches nothing beyond its own folder and cannot leave.
+        QVERIFY(QFile::link("/etc/passwd", card.setting("html/link.txt")));  // a way out planted on the card
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
         int connections = 0;
@@ -209,7 +210,7 @@ private slots:
         js(w, QString("tryEverything(%1)").arg(server.serverPort()));
         QVERIFY(QTest::qWaitFor([&] { return js(w, "attack.done === true && attack.http !== undefined && attack.img !== undefined").toBool(); }, 10000));
         QCOMPARE(js(w, "JSON.stringify(attack)").toString(),
-                 QString(R"({"passwd":"blocked","own":"camera page data","popup":"blocked","http":"blocked","img":"blocked","done":true})"));
+                 QString(R"({"passwd":"blocked","own":"camera page data","link":"blocked","popup":"blocked","http":"blocked","img":"blocked","done":true})"));
         QCOMPARE(connections, 0);
         QDirIterator downloads(QDir::homePath(), {"stolen*"}, QDir::Files, QDirIterator::Subdirectories);
         QVERIFY(!downloads.hasNext());
