@@ -98,10 +98,12 @@ WebSettingWindowController::WebSettingWindowController(const std::string& folder
     connect(formatButton_, &QPushButton::clicked, this, &WebSettingWindowController::askFormat);
     connect(cancelButton_, &QPushButton::clicked, this, &WebSettingWindowController::onBtnCancel);
     connect(saveButton_, &QPushButton::clicked, this, &WebSettingWindowController::onBtnSave);
-    // Escape already rejects a dialog; Ctrl+S saves wherever the focus is, the page included.
+    // Window-wide, so they work while the focus is in the page, which keeps
+    // the keys it does not use to itself.
     auto* save = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), this);
-    save->setContext(Qt::WindowShortcut);
     connect(save, &QShortcut::activated, this, &WebSettingWindowController::onBtnSave);
+    auto* cancel = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(cancel, &QShortcut::activated, this, &WebSettingWindowController::onBtnCancel);
 
     webView_->setUrl(QUrl(qs(files_.indexHtmlUrl())));
 }
