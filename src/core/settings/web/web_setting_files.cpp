@@ -22,12 +22,6 @@ bool isHexDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'
 
 }  // namespace
 
-std::string WebSettingFiles::indexHtmlUrl() const {
-    std::string url = "file://";
-    for (char c : folder_) url += c == ' ' ? std::string("%20") : std::string(1, c);
-    return url + "/SETTING/html/index.html";
-}
-
 std::string WebSettingFiles::hexOfFile(const std::string& path) {
     std::string bytes;
     std::size_t size = 0;

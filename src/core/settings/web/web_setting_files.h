@@ -32,8 +32,6 @@ public:
     explicit WebSettingFiles(std::string folder) : folder_(std::move(folder)) {}
     const std::string& folder() const { return folder_; }
 
-    // "file://" + folder with every blank as %20 (nothing else escaped).
-    std::string indexHtmlUrl() const;
     std::string indexHtmlFilename() const { return folder_ + "/SETTING/html/index.html"; }
     std::string htmlFolder() const { return folder_ + "/SETTING/html"; }
     std::string cfgFilename() const { return folder_ + "/SETTING/setup.cfg"; }

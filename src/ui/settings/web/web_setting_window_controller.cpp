@@ -105,7 +105,9 @@ WebSettingWindowController::WebSettingWindowController(const std::string& folder
     auto* cancel = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     connect(cancel, &QShortcut::activated, this, &WebSettingWindowController::onBtnCancel);
 
-    webView_->setUrl(QUrl(qs(files_.indexHtmlUrl())));
+    // Every character of the card's path escaped as a URL needs it, so a
+    // mount point with a blank, '#' or '%' still finds the page.
+    webView_->setUrl(QUrl::fromLocalFile(qs(files_.indexHtmlFilename())));
 }
 
 WebSettingWindowController::~WebSettingWindowController() {

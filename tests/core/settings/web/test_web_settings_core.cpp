@@ -76,11 +76,6 @@ TEST(WebUserQuestion, PartsAndLenientNumbers) {
 }
 
 TEST(WebSettingFiles, PathsAndReads) {
-    const WebSettingFiles f("/media/my card");
-    EXPECT_EQ(f.indexHtmlUrl(), "file:///media/my%20card/SETTING/html/index.html");
-    EXPECT_EQ(f.cfgFilename(), "/media/my card/SETTING/setup.cfg");
-    EXPECT_EQ(WebSettingFiles("/a#b").indexHtmlUrl(), "file:///a#b/SETTING/html/index.html");
-
     TempCard card;
     const WebSettingFiles files(card.path());
     EXPECT_EQ(files.cfgString(), "");

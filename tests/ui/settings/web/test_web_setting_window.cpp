@@ -53,10 +53,10 @@ void writeFile(const QString& path, const QByteArray& bytes) {
     f.write(bytes);
 }
 
-// A card root (with blanks in its path) holding the test camera page.
+// A card root (with blanks and URL characters in its path) holding the test camera page.
 struct Card {
     QTemporaryDir tmp;
-    QString root = tmp.path() + "/my card  2";
+    QString root = tmp.path() + "/my card  #2%20";
     QString setting(const char* name) const { return root + "/SETTING/" + name; }
     Card() {
         const QString from = TARVIK_SOURCE_DIR "/tests/ui/settings/web/fixtures/camera_page/";
@@ -215,7 +215,7 @@ private slots:
         QDirIterator downloads(QDir::homePath(), {"stolen*"}, QDir::Files, QDirIterator::Subdirectories);
         QVERIFY(!downloads.hasNext());
         QCOMPARE(received(w).size(), before);  // same document, nothing reloaded
-        QVERIFY(w->webView()->url().toLocalFile().endsWith("/my card  2/SETTING/html/index.html"));
+        QVERIFY(w->webView()->url().toLocalFile().endsWith("/my card  #2%20/SETTING/html/index.html"));
 
         const QString shot = TARVIK_BINARY_DIR "/screenshots/web_setting_window.png";
         QDir().mkpath(QFileInfo(shot).path());
