@@ -28,6 +28,9 @@ namespace {
 
 QPointer<WebSettingWindowController> g_instance;
 
+constexpr int kMaxWaitingQuestions = 16;
+constexpr qsizetype kMaxQuestionChars = 4096;
+
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 
 QPushButton* textButton(const char* key, QWidget* parent) {
@@ -131,8 +134,12 @@ void WebSettingWindowController::beginModal() {
 }
 
 void WebSettingWindowController::done(int result) {
-    if (g_instance == this) g_instance = nullptr;
+    endModalSession();
     QDialog::done(result);
+}
+
+void WebSettingWindowController::endModalSession() {
+    if (g_instance == this) g_instance = nullptr;
 }
 
 void WebSettingWindowController::evaluate(const std::string& script) {
@@ -180,7 +187,7 @@ void WebSettingWindowController::resetCfg() {
 
 void WebSettingWindowController::adasreset() { files_.removeAdasFile(); }
 
-void WebSettingWindowController::onBtnSave() {
+void WebSettingWindowController::saveConfig() {
     if (saving_) return;
     saving_ = true;
     saveButton_->setEnabled(false);
@@ -202,8 +209,13 @@ void WebSettingWindowController::onBtnSave() {
 }
 
 void WebSettingWindowController::showPopup(const QString& tabSeparated) {
-    const auto q = WebUserQuestion::parse(tabSeparated.toStdString());
+    const auto q = WebUserQuestion::parse(tabSeparated.left(kMaxQuestionChars).toStdString());
     if (!q) return;
+    // A page that keeps asking gets refusals rather than an endless queue.
+    if (questions_.size() >= kMaxWaitingQuestions) {
+        evaluate(webscript::updateCancel(q->index));
+        return;
+    }
     questions_.append(*q);
     if (!yesNoAlert_) showNextQuestion();
 }

@@ -58,9 +58,10 @@ public:
     void onBtnBack() { showTabs(true); }
     void onBtnReset() { resetCfg(); }
     void onBtnCancel() { reject(); }
+    void onBtnSave() { saveConfig(); }
     // Asks the page for its settings and writes them; the window closes once
     // they are on the card, and stays open (after the memory-card alert) when not.
-    void onBtnSave();
+    void saveConfig();
 
     const WebSettingFiles& files() const { return files_; }
     QWebEngineView* webView() const { return webView_; }
@@ -85,6 +86,7 @@ signals:
     void saveFinished(bool saved);
 
 private:
+    void endModalSession();
     void resetCfg();
     void evaluate(const std::string& script);
     void showNextQuestion();
