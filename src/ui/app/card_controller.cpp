@@ -11,6 +11,7 @@
 #include "ui/app/main_window.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
+#include "ui/settings/web/web_setting_window_controller.h"
 
 namespace tarvik {
 
@@ -96,6 +97,17 @@ void CardController::showSettingWindow() {
 
 void CardController::showSettingWindow_KRT() { notYetAvailable(tr("Editing the camera's settings")); }
 
-void CardController::showWebSettingWindow() { notYetAvailable(tr("The camera's settings page")); }
+void CardController::showWebSettingWindow() {
+    if (WebSettingWindowController::instance()) return;  // one settings window at a time
+    const M420SettingManager& m = manager();
+    auto* window = new WebSettingWindowController(m.settingDirPath(), m.languages(), v_.mainWindow);
+    connect(window, &WebSettingWindowController::formatRequested, window, [window] {
+        QMessageBox box(QMessageBox::Information, "Tarvik Viewer",
+                        tr("Formatting the memory card is not available yet."), QMessageBox::Ok, window);
+        box.exec();
+    });
+    window->centerInWindow(v_.mainWindow);
+    window->beginModal();
+}
 
 }  // namespace tarvik

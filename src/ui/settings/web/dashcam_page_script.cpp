@@ -1,0 +1,71 @@
+#include "ui/settings/web/dashcam_page_script.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace tarvik {
+
+namespace {
+
+// %1: the channel library, %2: the names as a script array, %3: the channel name.
+constexpr const char* kBootstrap = R"JS(
+%1
+(function () {
+  "use strict";
+  var queue = [];
+  var bridge = null;
+  var dashcam = {};
+  %2.forEach(function (name) {
+    dashcam[name] = function () {
+      var args = [];
+      for (var i = 0; i < arguments.length; ++i)
+        args.push(arguments[i] === undefined || arguments[i] === null ? "" : String(arguments[i]));
+      if (bridge) bridge.call(name, args); else queue.push([name, args]);
+    };
+  });
+  Object.freeze(dashcam);
+  Object.defineProperty(window, "Dashcam", { value: dashcam, writable: false, configurable: false });
+  var channelClass = QWebChannel;
+  function open() {
+    if (!(window.qt && window.qt.webChannelTransport)) { setTimeout(open, 5); return; }
+    new channelClass(window.qt.webChannelTransport, function (channel) {
+      bridge = channel.objects["%3"];
+      var pending = queue;
+      queue = [];
+      pending.forEach(function (c) { bridge.call(c[0], c[1]); });
+    });
+  }
+  open();
+})();
+)JS";
+
+QString channelLibrary() {
+    QFile f(QStringLiteral(":/qtwebchannel/qwebchannel.js"));
+    if (!f.open(QIODevice::ReadOnly)) return {};
+    return QString::fromUtf8(f.readAll());
+}
+
+}  // namespace
+
+const QStringList& dashcamScriptNames() {
+    static const QStringList names{
+        "log",        "getCfg",       "popup",         "userNoti",  "setdate:use",     "setdate",
+        "setdate:ampm", "setdate:min", "setdate:hour", "format",    "reset",           "adasreset",
+        "docLoadComplete", "languageSetComplete", "clickedList", "askFormat"};
+    return names;
+}
+
+QWebEngineScript dashcamPageScript() {
+    const QString names =
+        QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(dashcamScriptNames())).toJson(QJsonDocument::Compact));
+    QWebEngineScript script;
+    script.setName(QStringLiteral("dashcam-bridge"));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setRunsOnSubFrames(false);
+    script.setSourceCode(QString::fromUtf8(kBootstrap).arg(channelLibrary(), names, QString::fromUtf8(kDashcamChannelName)));
+    return script;
+}
+
+}  // namespace tarvik
