@@ -298,6 +298,20 @@ private slots:
         QVERIFY(!s->isGuideVisible());
     }
 
+    void tabWalksTheChoicesAndSpaceTakesOne() {
+        auto pane = openPane(readFile(cfg()));
+        QWidget* root = pane->view();
+        root->show();
+        QVERIFY(QTest::qWaitForWindowExposed(root));
+        root->activateWindow();
+        pane->memoryPartitionButton(0)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), pane->memoryPartitionButton(1));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCOMPARE(pane->selectedMemoryPartitionColumn(), 1);
+        QCOMPARE(KRTSettingManager::SharedKRTSettingManager().valueForKey("manual="), std::string("39"));
+    }
+
     void backgroundDragsTheWindow() {
         auto pane = openPane(readFile(cfg()));
         QWidget* root = pane->view();

@@ -1,6 +1,8 @@
 #include "ui/settings/krt/labelled_radio_button.h"
 
 #include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "ui/controls/image_library.h"
@@ -16,6 +18,17 @@ constexpr int kGap = 6;
 LabelledRadioButton::LabelledRadioButton(QWidget* parent) : RadioButton(parent) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setEnabled(true);  // the shared button starts disabled
+    setFocusPolicy(Qt::StrongFocus);  // Tab walks the pane's choices too
+}
+
+void LabelledRadioButton::keyPressEvent(QKeyEvent* e) {
+    if (e->key() != Qt::Key_Space || e->isAutoRepeat()) {
+        RadioButton::keyPressEvent(e);
+        return;
+    }
+    const QPointF centre(height() / 2.0, height() / 2.0);
+    QMouseEvent press(QEvent::MouseButtonPress, centre, mapToGlobal(centre), Qt::LeftButton, Qt::LeftButton, {});
+    mousePressEvent(&press);
 }
 
 QSize LabelledRadioButton::sizeHint() const {
@@ -39,6 +52,11 @@ void LabelledRadioButton::paintEvent(QPaintEvent*) {
     if (!px.isNull()) {
         px.setDevicePixelRatio(dpr);
         p.drawPixmap(mark.topLeft(), px);
+    }
+    if (hasFocus()) {
+        p.setPen(QPen(QColor(0xf2, 0xa3, 0x3a), 1, Qt::DotLine));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
     }
     if (text().isEmpty()) return;
     // Explicit colours: the pane's style sheet would otherwise decide them.

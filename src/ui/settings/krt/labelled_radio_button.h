@@ -18,6 +18,8 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void changeEvent(QEvent*) override;
+    // Space chooses the focused button, as a click does.
+    void keyPressEvent(QKeyEvent*) override;
 };
 
 }  // namespace tarvik
