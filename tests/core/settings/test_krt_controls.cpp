@@ -155,4 +155,12 @@ TEST(KrtControls, ClockSwitchAndCommit) {
     EXPECT_FALSE(commitSettings(k, nullptr));
     EXPECT_EQ(alerts.count, 2);
     EXPECT_EQ(card.read("SETTING/blackbox.cfg"), junk);
+
+    // The card taken out while the pane is open: an alert, and nothing made
+    // where it was.
+    k.setLinedSettings({"[time]", "set=0"});
+    std::filesystem::remove_all(card.root());
+    EXPECT_FALSE(commitSettings(k, &date));
+    EXPECT_EQ(alerts.count, 3);
+    EXPECT_FALSE(std::filesystem::exists(card.root()));
 }
