@@ -9,9 +9,11 @@
 #include "core/settings/m420/m420_setting_manager.h"
 #include "ui/app/catalogue_controller.h"
 #include "ui/app/main_window.h"
+#include "ui/app/pane/setting_window.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/settings/web/web_setting_window_controller.h"
+#include "ui/settings/krt/krt_setting_view_controller.h"
 
 namespace tarvik {
 
@@ -95,7 +97,11 @@ void CardController::showSettingWindow() {
     notYetAvailable(tr("Editing the camera's settings"));
 }
 
-void CardController::showSettingWindow_KRT() { notYetAvailable(tr("Editing the camera's settings")); }
+void CardController::showSettingWindow_KRT() {
+    KRTSettingViewController pane;
+    SettingWindow window;
+    if (window.showModalWindow(v_.mainWindow, pane.view(), &pane, false) == 1) updateModelInfo();
+}
 
 void CardController::showWebSettingWindow() {
     if (WebSettingWindowController::instance()) return;  // one settings window at a time

@@ -125,7 +125,9 @@ bool KRTSettingManager::saveData() {
     if (!root.empty()) {
         const fs::path dir = fs::path(root) / "SETTING";
         std::error_code ec;
-        ok = (fs::is_directory(dir, ec) || fs::create_directories(dir, ec)) &&
+        // A card pulled out while the pane was open leaves its mount point
+        // behind, or not even that: SETTING is made on the card, never in its place.
+        ok = fs::is_directory(root, ec) && (fs::is_directory(dir, ec) || fs::create_directories(dir, ec)) &&
              writeFileAtomically((dir / "blackbox.cfg").string(), joinLines(linedSettings_));
     }
     if (!ok) raiseMemoryCardAlert();
