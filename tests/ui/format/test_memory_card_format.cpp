@@ -36,6 +36,23 @@ QPushButton* buttonTitled(QMessageBox* box, const QString& text) {
     return nullptr;
 }
 
+// Records the alert's text at the moment its button becomes enabled.
+class EnableWatch : public QObject {
+public:
+    EnableWatch(QMessageBox* box, QPushButton* button) : box_(box) { button->installEventFilter(this); }
+    QString textWhenEnabled;
+
+protected:
+    bool eventFilter(QObject* o, QEvent* e) override {
+        if (e->type() == QEvent::EnabledChange && static_cast<QWidget*>(o)->isEnabled())
+            textWhenEnabled = box_->informativeText();
+        return false;
+    }
+
+private:
+    QMessageBox* box_;
+};
+
 }  // namespace
 
 class TestMemoryCardFormat : public QObject {
@@ -238,6 +255,7 @@ private slots:
         QTRY_VERIFY(QFile::exists(marker()));
         QPushButton* ok = buttonTitled(flow.formattingAlert(), "OK");
         QVERIFY(!ok->isEnabled());
+        EnableWatch watch(flow.formattingAlert(), ok);
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 20000);
         QCOMPARE(finished.first().first().toBool(), false);
         QVERIFY(ok->isEnabled());
@@ -246,6 +264,7 @@ private slots:
             "TARVIK VIEWER를 종료하고 다시 포맷하십시오.\r\n메모리카드를 사용하고 있는 디스크 유틸리티나 다른 프로그램을 종료하고\r\n"
             "메모리카드의 내용을 표시하고 있는 창이 없는지 확인한 다음 다시 포맷하십시오.");
         QCOMPARE(flow.formattingAlert()->informativeText(), failure);
+        QCOMPARE(watch.textWhenEnabled, failure);  // the text was in place before the button could close it
         QCOMPARE(formats(), QStringList());
         QVERIFY(UDisks2CardFormatter().inspect(environment().mounts[1]).has_value());  // mounted again
         shoot(flow.formattingAlert(), "failure");
