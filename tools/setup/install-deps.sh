@@ -12,6 +12,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth libgl1-mesa-dri libglx-mesa0
   fonts-noto-cjk fonts-dejavu-core
+  dbus python3-dbusmock udisks2 dosfstools
 )
 
 missing=()

@@ -1,0 +1,34 @@
+#pragma once
+// Erasing a memory card in place, behind an interface so that the flow around
+// it can be driven by another formatter in tests.
+
+#include <QString>
+
+#include <optional>
+
+#include "core/device/volume_list.h"
+
+namespace tarvik {
+
+// What the formatter knows of one mounted card.
+struct CardVolume {
+    QString mountPoint;
+    QString device;      // e.g. "/dev/mmcblk0p1"
+    QString objectPath;  // the formatter's own handle on the device
+    QString fsType;      // kept when erasing, e.g. "vfat", "exfat"
+    QString label;       // kept when erasing; may be empty
+};
+
+class CardFormatter {
+public:
+    virtual ~CardFormatter() = default;
+    // Called on the interface thread before any question is asked: the card
+    // mounted at `mount`, or none when the formatter does not know it or its
+    // own account says the drive is not removable.
+    virtual std::optional<CardVolume> inspect(const MountEntry& mount) = 0;
+    // Called on a worker thread; blocks until done. True when the card was
+    // erased with the same file-system type and label.
+    virtual bool format(const CardVolume& volume) = 0;
+};
+
+}  // namespace tarvik
