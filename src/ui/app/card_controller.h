@@ -3,6 +3,7 @@
 // clips scanned when it is recognised, and the way to its settings.
 
 #include <QObject>
+#include <string>
 
 #include "ui/app/main_window_views.h"
 
@@ -27,12 +28,24 @@ public:
     void showSettingWindow_KRT();
     void showWebSettingWindow();
 
+    // Takes root as the card the user named (picker or command line) and
+    // runs what follows that choice: model picker, KRT pane or settings window.
+    void openChosenCard(const std::string& root);
+
+public slots:
+    // The settings pane's format button.
+    void formatCard();
+
 signals:
     // Playback pauses before a settings window opens.
     void pauseVideoRequested();
 
 private:
     void notYetAvailable(const QString& what);
+    // Shows the manager's model and the card's clips without searching the volumes.
+    void showChosenCardModel();
+    // Runs a pane modally over the main window with the given title bar; its result.
+    int showModal(class OrvoViewController& pane, bool showTitleBar);
 
     const MainWindowViews& v_;
     CatalogueController& catalogue_;
