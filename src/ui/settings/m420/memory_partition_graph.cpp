@@ -49,14 +49,14 @@ void MemoryPartitionGraph::paintEvent(QPaintEvent*) {
     p.setPen(QColor(0x55, 0x5b, 0x66));
     p.drawRect(QRectF(0.5, 0.5, w - 1, barH));
     QFont f = font();
-    f.setPointSizeF(f.pointSizeF() * 0.85);
+    f.setPointSizeF(f.pointSizeF() * 0.78);
     p.setFont(f);
     const double cell = w / 5.0;
     for (std::size_t i = 0; i < shares_.size(); ++i) {
         const QRectF swatch(cell * static_cast<double>(i), barH + 8, 10, 10);
         p.fillRect(swatch, kColours[i]);
         p.setPen(Qt::white);
-        p.drawText(QRectF(swatch.right() + 4, barH + 4, cell - 16, 18), Qt::AlignLeft | Qt::AlignVCenter,
+        p.drawText(QRectF(swatch.right() + 3, barH + 4, cell - 13, 18), Qt::AlignLeft | Qt::AlignVCenter,
                    tr_k(areaKeys()[i]));
         p.drawText(QRectF(swatch.right() + 4, barH + 22, cell - 16, 18), Qt::AlignLeft | Qt::AlignVCenter,
                    texts[static_cast<int>(i)]);
