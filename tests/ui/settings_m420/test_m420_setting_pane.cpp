@@ -14,10 +14,15 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <fstream>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <iterator>
 
 #include "cardgen/card_plan.h"
 #include "core/settings/m420/m420_setting_manager.h"
+#include "core/settings/m420/settings_alert_sink.h"
 #include "ui/app/prefs/qsettings_store.h"
 #include "ui/settings/m420/m420_control_widget.h"
 #include "ui/settings/m420/m420_setting_view_controller.h"
@@ -241,6 +246,40 @@ private slots:
             again.okButtonTouched();
             QCOMPARE(QFileInfo(card.path() + "/SETTING/setup.cfg").size(), 432);
         }
+    }
+
+    // OK on a card that refuses writes: one alert, every file as it was.
+    void readOnlyCardAlertsAndKeepsItsFiles() {
+        QTemporaryDir card;
+        QVERIFY(cardgen::writeSettingsFiles(card.path().toStdString(), 1));
+        const QByteArray hash = cardHash(card.path());
+        const std::string root = card.path().toStdString();
+        const pid_t pid = ::fork();
+        QVERIFY(pid >= 0);
+        if (pid == 0) {
+            // A private read-only bind mount of the card, seen by this child only.
+            if (::geteuid() != 0 || ::unshare(CLONE_NEWNS) != 0 ||
+                ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+                ::mount(root.c_str(), root.c_str(), nullptr, MS_BIND, nullptr) != 0 ||
+                ::mount(nullptr, root.c_str(), nullptr, MS_REMOUNT | MS_BIND | MS_RDONLY, nullptr) != 0)
+                ::_exit(77);
+            struct Sink : SettingsAlertSink {
+                int count = 0;
+                void showSettingsAlert(const std::string&, const std::string&, const std::string&) override { ++count; }
+            } sink;
+            setSettingsAlertSink(&sink);
+            openCard(card.path());
+            M420SettingViewController pane;
+            pane.control(Control::FrontBrightness)->slider()->setValue(0);
+            pane.okButtonTouched();
+            ::_exit(sink.count == 1 ? 0 : 1);
+        }
+        int status = 0;
+        ::waitpid(pid, &status, 0);
+        QVERIFY(WIFEXITED(status));
+        if (WEXITSTATUS(status) == 77) QSKIP("cannot make a read-only card here");
+        QCOMPARE(WEXITSTATUS(status), 0);
+        QCOMPARE(cardHash(card.path()), hash);
     }
 
     void screenshotsOfEveryTab() {
