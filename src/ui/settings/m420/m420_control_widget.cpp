@@ -34,8 +34,9 @@ M420ControlWidget::M420ControlWidget(const m420pane::ControlSpec& spec, int mini
         sliderValue_->setMinimumWidth(28);
         layout->addWidget(s, 1);
         layout->addWidget(sliderValue_);
-        connect(s, &QSlider::valueChanged, this, [this](int v) {
-            sliderValue_->setText(QString::number(v));
+        sliderValue_->setMinimumWidth(36);
+        connect(s, &QSlider::valueChanged, this, [this](int) {
+            showSliderValue(true);
             report();
         });
         break;
@@ -81,7 +82,7 @@ void M420ControlWidget::setPosition(int p) {
     if (slider_) {
         QSignalBlocker block(slider_);
         slider_->setValue(p == m420pane::kNoPosition ? slider_->minimum() : p);
-        sliderValue_->setText(p == m420pane::kNoPosition ? QString("-") : QString::number(slider_->value()));
+        showSliderValue(p != m420pane::kNoPosition);
     } else if (group_) {
         QSignalBlocker block(group_);
         // An exclusive group cannot show "none" otherwise.
@@ -104,6 +105,16 @@ void M420ControlWidget::setChoiceLabels(const QStringList& labels) {
     } else if (combo_) {
         for (int i = 0; i < combo_->count() && i < labels.size(); ++i) combo_->setItemText(i, labels[i]);
     }
+}
+
+void M420ControlWidget::setValueText(std::function<QString(int)> text) {
+    valueText_ = std::move(text);
+    if (slider_ && sliderValue_->text() != "-") showSliderValue(true);
+}
+
+void M420ControlWidget::showSliderValue(bool known) {
+    const int v = slider_->value();
+    sliderValue_->setText(!known ? QString("-") : valueText_ ? valueText_(v) : QString::number(v));
 }
 
 void M420ControlWidget::setControlEnabled(bool on) { setEnabled(on); }

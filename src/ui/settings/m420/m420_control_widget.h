@@ -4,6 +4,7 @@
 // position (kNoPosition for none) so the pane needs no per-control code.
 
 #include <QStringList>
+#include <functional>
 #include <QWidget>
 
 #include "core/settings/m420/m420_pane_features.h"
@@ -28,6 +29,8 @@ public:
     // Shows the position without reporting it; kNoPosition clears a choice.
     void setPosition(int position);
     void setChoiceLabels(const QStringList& labels);
+    // How a slider shows its value (the number itself by default).
+    void setValueText(std::function<QString(int)> text);
     // Greys the control out (parking-mode dependants).
     void setControlEnabled(bool on);
     QAbstractSlider* slider() const { return slider_; }
@@ -41,7 +44,10 @@ signals:
 private:
     void report();
 
+    void showSliderValue(bool known);
+
     m420pane::ControlSpec spec_;
+    std::function<QString(int)> valueText_;
     QAbstractSlider* slider_ = nullptr;
     QLabel* sliderValue_ = nullptr;
     QButtonGroup* group_ = nullptr;

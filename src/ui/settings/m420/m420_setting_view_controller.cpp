@@ -76,7 +76,10 @@ void M420SettingViewController::loadView() {
         "QLabel, QRadioButton, QCheckBox { color: #e8eaed; }"
         "QPushButton { color: white; background: #3b424e; border: 1px solid #5b6474; border-radius: 4px;"
         " padding: 5px 14px; } QPushButton:checked { background: #2f6fd6; border-color: #5b95f0; }"
-        "QLabel#paneModel { color: #9fb4d8; font-weight: bold; }");
+        "QLabel#paneModel { color: #9fb4d8; font-weight: bold; }"
+        "QRadioButton::indicator, QCheckBox::indicator { width: 12px; height: 12px; border: 1px solid #8a93a3;"
+        " background: #1b1e23; } QRadioButton::indicator { border-radius: 7px; }"
+        "QRadioButton::indicator:checked, QCheckBox::indicator:checked { background: #3d8bfd; border-color: #e8eaed; }");
     v->resize(kPaneSize);
 
     auto* top = new QHBoxLayout;
@@ -145,6 +148,13 @@ void M420SettingViewController::buildControls() {
             for (const auto& [index, code] : m.languages()) choices << languageName(code);
         }
         auto* w = new M420ControlWidget(spec, features_.sliderMinimum(c), features_.sliderMaximum(c), choices);
+        if (c == Control::ParkingTimeLimit) {
+            const bool with36 = features_.timeLimitWith36Hours;
+            w->setValueText([with36](int step) {
+                const auto hours = m420pane::timeLimitHours(with36, step);
+                return hours ? QString("%1h").arg(*hours) : QString("-");
+            });
+        }
         controls_[static_cast<std::size_t>(i)] = w;
         captions_[static_cast<std::size_t>(i)] = new QLabel;
         connect(w, &M420ControlWidget::positionChanged, this, &M420SettingViewController::controlChanged);
