@@ -282,6 +282,23 @@ private slots:
         QCOMPARE(cardHash(card.path()), hash);
     }
 
+    void cardRemovedWhileOpenGetsNothingWritten() {
+        QTemporaryDir card;
+        QVERIFY(cardgen::writeSettingsFiles(card.path().toStdString(), 3));
+        openCard(card.path());
+        M420SettingViewController pane;
+        QVERIFY(QDir(card.path() + "/SETTING").removeRecursively());  // the card is gone, its mount folder stays
+        struct Sink : SettingsAlertSink {
+            int count = 0;
+            void showSettingsAlert(const std::string&, const std::string&, const std::string&) override { ++count; }
+        } sink;
+        setSettingsAlertSink(&sink);
+        pane.okButtonTouched();
+        setSettingsAlertSink(nullptr);
+        QCOMPARE(sink.count, 1);
+        QCOMPARE(QDir(card.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
+    }
+
     void screenshotsOfEveryTab() {
         QTemporaryDir card;
         QVERIFY(cardgen::writeSettingsFiles(card.path().toStdString(), 5));

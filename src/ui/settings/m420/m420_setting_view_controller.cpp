@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -69,6 +70,8 @@ M420SettingViewController::~M420SettingViewController() = default;
 
 void M420SettingViewController::loadView() {
     features_ = m420pane::paneFeaturesFor(manager());
+    const QString root = QString::fromStdString(manager().settingDirPath());
+    hadSettingFolder_ = !root.isEmpty() && QFileInfo(root + "/SETTING").isDir();
     QWidget* v = view();
     v->setObjectName("m420SettingPane");
     v->setStyleSheet(
@@ -245,6 +248,13 @@ void M420SettingViewController::applySettingTime() {
 bool M420SettingViewController::saveData() {
     M420SettingManager& m = manager();
     if (features_.group == m420pane::ModelGroup::None) return true;
+    // A card pulled while the pane was open leaves its empty mount folder
+    // behind; writing there would put the settings on this computer's disk.
+    const QString root = QString::fromStdString(m.settingDirPath());
+    if (hadSettingFolder_ && !QFileInfo(root + "/SETTING").isDir()) {
+        raiseMemoryCardAlert();
+        return false;
+    }
     m420pane::saveSettingData(state_, features_, m);
     return m.saveData();
 }

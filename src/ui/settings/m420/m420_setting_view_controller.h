@@ -100,7 +100,8 @@ private:
     QPushButton* cancelButton_ = nullptr;
     QLabel* modelLabel_ = nullptr;
     int currentTab_ = CommonTab;
-    int clockOffsetMinutes_ = 0;  // the zone the clock file was written in
+    int clockOffsetMinutes_ = 0;
+    bool hadSettingFolder_ = false;  // the card had SETTING/ when the pane opened  // the zone the clock file was written in
     AlertResponder alert_;
 };
 
