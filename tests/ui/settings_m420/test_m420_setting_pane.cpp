@@ -137,7 +137,8 @@ private slots:
                  QStringList({"37.0%", "15.0%", "5.0%", "3.0%", "40.0%"}));
         QVERIFY(pane.timeCheckBox()->isChecked());
         pane.timeCheckBox()->setChecked(false);
-        pane.okButtonTouched();
+        QKeyEvent ret(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        pane.keyDown(&ret);  // Return is OK
         QVERIFY(!QFile::exists(card.path() + "/SETTING/time.dat"));
     }
 
