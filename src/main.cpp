@@ -1,4 +1,4 @@
-// tarvik-viewer [--folder PATH] [--demo-card PATH] [--screenshot FILE]
+// tarvik-viewer [--folder PATH] [--demo-card PATH] [--settings CARD] [--screenshot FILE]
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
@@ -11,6 +11,7 @@
 #include "core/app/viewer_preferences.h"
 #include "core/library/conversion/utils.h"
 #include "ui/app/application_style.h"
+#include "ui/app/card_controller.h"
 #include "ui/app/main_window.h"
 #include "ui/app/main_window_controller.h"
 #include "ui/app/prefs/qsettings_store.h"
@@ -42,7 +43,9 @@ int main(int argc, char** argv) {
     QCommandLineOption demo("demo-card", "Open PATH when no camera card is found.", "PATH");
     QCommandLineOption shot("screenshot", "Write a picture of the main window to FILE once it is up, then quit.",
                             "FILE");
-    cli.addOptions({folder, demo, shot});
+    QCommandLineOption settings("settings", "Open the settings of the memory card at CARD once the window is up.",
+                                "CARD");
+    cli.addOptions({folder, demo, settings, shot});
     cli.process(app);
 
     tarvik::applyApplicationStyle(app);
@@ -57,6 +60,15 @@ int main(int argc, char** argv) {
             QTimer::singleShot(1500, [&controller, file] {
                 controller.mainWindow()->grab().save(file);
                 QApplication::quit();
+            });
+        });
+    }
+    if (cli.isSet(settings)) {
+        const QString card = QDir(cli.value(settings)).absolutePath();
+        QObject::connect(&controller, &tarvik::MainWindowController::startedUp, &app, [&controller, card] {
+            // Queued: the settings run modally, after start-up has finished.
+            QTimer::singleShot(0, &controller, [&controller, card] {
+                controller.card().openChosenCard(QFile::encodeName(card).toStdString());
             });
         });
     }

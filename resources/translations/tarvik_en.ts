@@ -378,4 +378,227 @@ Select a model name to apply its default settings.</translation>
         <translation>(UTC+10:00) Canberra, Melbourne, Sydney</translation>
     </message>
 </context>
+<context>
+    <name>Localizable_M420</name>
+    <message>
+        <source>공통</source>
+        <translation>Common</translation>
+    </message>
+    <message>
+        <source>상시녹화</source>
+        <translation>Continuous</translation>
+    </message>
+    <message>
+        <source>주차녹화</source>
+        <translation>Parking</translation>
+    </message>
+    <message>
+        <source>기타</source>
+        <translation>Other</translation>
+    </message>
+    <message>
+        <source>전방 밝기</source>
+        <translation>Front brightness</translation>
+    </message>
+    <message>
+        <source>음성 녹음</source>
+        <translation>Audio recording</translation>
+    </message>
+    <message>
+        <source>음성 안내</source>
+        <translation>Voice guidance</translation>
+    </message>
+    <message>
+        <source>음성 안내 볼륨</source>
+        <translation>Voice volume</translation>
+    </message>
+    <message>
+        <source>표준 시간대</source>
+        <translation>Time zone</translation>
+    </message>
+    <message>
+        <source>서머타임</source>
+        <translation>Summer time</translation>
+    </message>
+    <message>
+        <source>운전 가이드</source>
+        <translation>Driving guide</translation>
+    </message>
+    <message>
+        <source>LCD 밝기</source>
+        <translation>LCD brightness</translation>
+    </message>
+    <message>
+        <source>날짜 / 시간 설정</source>
+        <translation>Set date and time</translation>
+    </message>
+    <message>
+        <source>전방 해상도</source>
+        <translation>Front resolution</translation>
+    </message>
+    <message>
+        <source>프레임</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>전방 화질</source>
+        <translation>Front quality</translation>
+    </message>
+    <message>
+        <source>후방 해상도</source>
+        <translation>Rear resolution</translation>
+    </message>
+    <message>
+        <source>후방 화질</source>
+        <translation>Rear quality</translation>
+    </message>
+    <message>
+        <source>충격 감도</source>
+        <translation>Impact sensitivity</translation>
+    </message>
+    <message>
+        <source>차선이탈 경보</source>
+        <translation>Lane departure warning</translation>
+    </message>
+    <message>
+        <source>차선이탈 경보 속도</source>
+        <translation>Lane departure speed</translation>
+    </message>
+    <message>
+        <source>전방추돌 경보</source>
+        <translation>Forward collision warning</translation>
+    </message>
+    <message>
+        <source>앞차 출발 알림</source>
+        <translation>Vehicle ahead departs</translation>
+    </message>
+    <message>
+        <source>주차모션</source>
+        <translation>Parking motion</translation>
+    </message>
+    <message>
+        <source>타임랩스</source>
+        <translation>Time-lapse</translation>
+    </message>
+    <message>
+        <source>사용</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>사용 안 함</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>모션 감지</source>
+        <translation>Motion detection</translation>
+    </message>
+    <message>
+        <source>모션 감도</source>
+        <translation>Motion sensitivity</translation>
+    </message>
+    <message>
+        <source>주차 녹화 시간</source>
+        <translation>Parking time limit</translation>
+    </message>
+    <message>
+        <source>배터리 차단 전압 12V</source>
+        <translation>Battery cut-off 12V</translation>
+    </message>
+    <message>
+        <source>배터리 차단 전압 24V</source>
+        <translation>Battery cut-off 24V</translation>
+    </message>
+    <message>
+        <source>상시 충격 덮어쓰기</source>
+        <translation>Overwrite continuous impact</translation>
+    </message>
+    <message>
+        <source>주차 모션 덮어쓰기</source>
+        <translation>Overwrite parking motion</translation>
+    </message>
+    <message>
+        <source>주차 충격 덮어쓰기</source>
+        <translation>Overwrite parking impact</translation>
+    </message>
+    <message>
+        <source>수동 녹화 덮어쓰기</source>
+        <translation>Overwrite manual recording</translation>
+    </message>
+    <message>
+        <source>보안 LED</source>
+        <translation>Security LED</translation>
+    </message>
+    <message>
+        <source>모드 1</source>
+        <translation>Mode 1</translation>
+    </message>
+    <message>
+        <source>모드 2</source>
+        <translation>Mode 2</translation>
+    </message>
+    <message>
+        <source>모드 3</source>
+        <translation>Mode 3</translation>
+    </message>
+    <message>
+        <source>메모리 분할</source>
+        <translation>Memory partition</translation>
+    </message>
+    <message>
+        <source>기본</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>수동 우선</source>
+        <translation>Manual first</translation>
+    </message>
+    <message>
+        <source>주차 우선</source>
+        <translation>Parking first</translation>
+    </message>
+    <message>
+        <source>상시</source>
+        <translation>Continuous</translation>
+    </message>
+    <message>
+        <source>상시 충격</source>
+        <translation>Cont. impact</translation>
+    </message>
+    <message>
+        <source>주차 모션</source>
+        <translation>Parking motion</translation>
+    </message>
+    <message>
+        <source>주차 충격</source>
+        <translation>Parking impact</translation>
+    </message>
+    <message>
+        <source>수동</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>화면 터치 초기화</source>
+        <translation>Reset touch calibration</translation>
+    </message>
+    <message>
+        <source>켜짐</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>꺼짐</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>낮음</source>
+        <translation>Low</translation>
+    </message>
+    <message>
+        <source>보통</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>높음</source>
+        <translation>High</translation>
+    </message>
+</context>
 </TS>

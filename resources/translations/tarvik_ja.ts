@@ -378,4 +378,227 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <translation>(UTC+10:00) キャンベラ、メルボルン、シドニー</translation>
     </message>
 </context>
+<context>
+    <name>Localizable_M420</name>
+    <message>
+        <source>공통</source>
+        <translation>共通</translation>
+    </message>
+    <message>
+        <source>상시녹화</source>
+        <translation>常時録画</translation>
+    </message>
+    <message>
+        <source>주차녹화</source>
+        <translation>駐車録画</translation>
+    </message>
+    <message>
+        <source>기타</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>전방 밝기</source>
+        <translation>前方の明るさ</translation>
+    </message>
+    <message>
+        <source>음성 녹음</source>
+        <translation>音声録音</translation>
+    </message>
+    <message>
+        <source>음성 안내</source>
+        <translation>音声案内</translation>
+    </message>
+    <message>
+        <source>음성 안내 볼륨</source>
+        <translation>音声案内の音量</translation>
+    </message>
+    <message>
+        <source>표준 시간대</source>
+        <translation>タイムゾーン</translation>
+    </message>
+    <message>
+        <source>서머타임</source>
+        <translation>サマータイム</translation>
+    </message>
+    <message>
+        <source>운전 가이드</source>
+        <translation>運転ガイド</translation>
+    </message>
+    <message>
+        <source>LCD 밝기</source>
+        <translation>LCDの明るさ</translation>
+    </message>
+    <message>
+        <source>날짜 / 시간 설정</source>
+        <translation>日付/時刻の設定</translation>
+    </message>
+    <message>
+        <source>전방 해상도</source>
+        <translation>前方解像度</translation>
+    </message>
+    <message>
+        <source>프레임</source>
+        <translation>フレームレート</translation>
+    </message>
+    <message>
+        <source>전방 화질</source>
+        <translation>前方画質</translation>
+    </message>
+    <message>
+        <source>후방 해상도</source>
+        <translation>後方解像度</translation>
+    </message>
+    <message>
+        <source>후방 화질</source>
+        <translation>後方画質</translation>
+    </message>
+    <message>
+        <source>충격 감도</source>
+        <translation>衝撃感度</translation>
+    </message>
+    <message>
+        <source>차선이탈 경보</source>
+        <translation>車線逸脱警報</translation>
+    </message>
+    <message>
+        <source>차선이탈 경보 속도</source>
+        <translation>車線逸脱警報の速度</translation>
+    </message>
+    <message>
+        <source>전방추돌 경보</source>
+        <translation>前方衝突警報</translation>
+    </message>
+    <message>
+        <source>앞차 출발 알림</source>
+        <translation>前車発進通知</translation>
+    </message>
+    <message>
+        <source>주차모션</source>
+        <translation>駐車モーション</translation>
+    </message>
+    <message>
+        <source>타임랩스</source>
+        <translation>タイムラプス</translation>
+    </message>
+    <message>
+        <source>사용</source>
+        <translation>使用する</translation>
+    </message>
+    <message>
+        <source>사용 안 함</source>
+        <translation>使用しない</translation>
+    </message>
+    <message>
+        <source>모션 감지</source>
+        <translation>モーション検知</translation>
+    </message>
+    <message>
+        <source>모션 감도</source>
+        <translation>モーション感度</translation>
+    </message>
+    <message>
+        <source>주차 녹화 시간</source>
+        <translation>駐車録画時間</translation>
+    </message>
+    <message>
+        <source>배터리 차단 전압 12V</source>
+        <translation>バッテリー遮断電圧 12V</translation>
+    </message>
+    <message>
+        <source>배터리 차단 전압 24V</source>
+        <translation>バッテリー遮断電圧 24V</translation>
+    </message>
+    <message>
+        <source>상시 충격 덮어쓰기</source>
+        <translation>常時衝撃の上書き</translation>
+    </message>
+    <message>
+        <source>주차 모션 덮어쓰기</source>
+        <translation>駐車モーションの上書き</translation>
+    </message>
+    <message>
+        <source>주차 충격 덮어쓰기</source>
+        <translation>駐車衝撃の上書き</translation>
+    </message>
+    <message>
+        <source>수동 녹화 덮어쓰기</source>
+        <translation>手動録画の上書き</translation>
+    </message>
+    <message>
+        <source>보안 LED</source>
+        <translation>セキュリティLED</translation>
+    </message>
+    <message>
+        <source>모드 1</source>
+        <translation>モード1</translation>
+    </message>
+    <message>
+        <source>모드 2</source>
+        <translation>モード2</translation>
+    </message>
+    <message>
+        <source>모드 3</source>
+        <translation>モード3</translation>
+    </message>
+    <message>
+        <source>메모리 분할</source>
+        <translation>メモリ分割</translation>
+    </message>
+    <message>
+        <source>기본</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>수동 우선</source>
+        <translation>手動優先</translation>
+    </message>
+    <message>
+        <source>주차 우선</source>
+        <translation>駐車優先</translation>
+    </message>
+    <message>
+        <source>상시</source>
+        <translation>常時</translation>
+    </message>
+    <message>
+        <source>상시 충격</source>
+        <translation>常時衝撃</translation>
+    </message>
+    <message>
+        <source>주차 모션</source>
+        <translation>駐車モーション</translation>
+    </message>
+    <message>
+        <source>주차 충격</source>
+        <translation>駐車衝撃</translation>
+    </message>
+    <message>
+        <source>수동</source>
+        <translation>手動</translation>
+    </message>
+    <message>
+        <source>화면 터치 초기화</source>
+        <translation>タッチ補正のリセット</translation>
+    </message>
+    <message>
+        <source>켜짐</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>꺼짐</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>낮음</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>보통</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>높음</source>
+        <translation>高</translation>
+    </message>
+</context>
 </TS>

@@ -1,5 +1,6 @@
 #include "ui/app/card_controller.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
 
@@ -10,8 +11,13 @@
 #include "ui/app/catalogue_controller.h"
 #include "ui/app/main_window.h"
 #include "ui/app/pane/setting_window.h"
+#include "ui/device/select_device_view_controller.h"
+#include "ui/device/select_flash_memory_view_controller.h"
+#include "ui/settings/m420/m420_setting_view_controller.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
+#include "ui/settings/web/format/memory_card_format.h"
+#include "ui/settings/web/format/udisks2_card_formatter.h"
 #include "ui/settings/web/web_setting_window_controller.h"
 #include "ui/settings/krt/krt_setting_view_controller.h"
 
@@ -85,16 +91,76 @@ void CardController::notYetAvailable(const QString& what) {
     box.exec();
 }
 
-void CardController::showSelectFlashMemoryWindow() { notYetAvailable(tr("Choosing the memory card")); }
+int CardController::showModal(OrvoViewController& pane, bool showTitleBar) {
+    SettingWindow window(v_.mainWindow);
+    return window.showModalWindow(v_.mainWindow, pane.view(), &pane, showTitleBar);
+}
 
-void CardController::showSelectModelWindow() { notYetAvailable(tr("Choosing the camera model")); }
+void CardController::showChosenCardModel() {
+    M420SettingManager& m = manager();
+    const auto type = m.modelType();
+    if (type != m420model::Newer && type >= 0 && type < static_cast<std::int64_t>(m.modelNameList().size()))
+        m.setModelName(m.modelNameList()[static_cast<std::size_t>(type)]);
+    catalogue_.refreshVideoFileListWithURL(m.settingDirPath());
+    v_.settingsButton->setEnabled(true);
+    v_.modelTextField->setText(m.modelName().empty() ? tr_k("unknown") : QString::fromStdString(m.modelName()));
+}
+
+void CardController::openChosenCard(const std::string& root) {
+    M420SettingManager& m = manager();
+    // The named card, not the first recognised volume: the user chose it.
+    m.loadVersionInfoForPath(root);
+    switch (m420model::settingsPaneFor(m.modelType())) {
+    case m420model::SettingsPane::ModelPicker:
+        showSelectModelWindow();
+        return;
+    case m420model::SettingsPane::Krt:
+        KRTSettingManager::SharedKRTSettingManager().loadData();
+        showChosenCardModel();
+        showSettingWindow_KRT();
+        return;
+    case m420model::SettingsPane::Web:
+    case m420model::SettingsPane::Native:
+        m.loadData();
+        showChosenCardModel();
+        showSettingWindow();
+        return;
+    }
+}
+
+void CardController::showSelectFlashMemoryWindow() {
+    SelectFlashMemoryViewController picker;
+    if (showModal(picker, true) != 1) return;
+    openChosenCard(picker.selectedFlashMeoryUrl().value_or(""));
+}
+
+void CardController::showSelectModelWindow() {
+    SelectDeviceViewController picker;
+    M420SettingManager& m = manager();
+    if (showModal(picker, true) != 1) {
+        m.setSettingDirPath("");  // the card choice is dropped with the model
+        return;
+    }
+    m.setModelType(picker.selectedModelType());
+    if (m.modelType() == m420model::Q260) {
+        KRTSettingManager::SharedKRTSettingManager().loadData();
+        showSettingWindow_KRT();
+        return;
+    }
+    if (m.modelType() == m420model::Q810UK) m.setLocalID(3);
+    if (m.modelType() == m420model::Q810) m.setLocalID(0);
+    m.loadData();
+    showSettingWindow();
+}
 
 void CardController::showSettingWindow() {
     if (m420model::settingsPaneFor(manager().modelType()) == m420model::SettingsPane::Web) {
         showWebSettingWindow();
         return;
     }
-    notYetAvailable(tr("Editing the camera's settings"));
+    M420SettingViewController pane;
+    connect(&pane, &M420SettingViewController::formatRequested, this, &CardController::formatCard);
+    if (showModal(pane, false) == 1) updateModelInfo();
 }
 
 void CardController::showSettingWindow_KRT() {
@@ -103,15 +169,23 @@ void CardController::showSettingWindow_KRT() {
     if (window.showModalWindow(v_.mainWindow, pane.view(), &pane, false) == 1) updateModelInfo();
 }
 
+void CardController::formatCard() {
+    // The alerts belong over the settings window that asked for them.
+    QWidget* window = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : v_.mainWindow;
+    if (!format_) {
+        format_ = new MemoryCardFormat(std::make_shared<UDisks2CardFormatter>(), this);
+        connect(format_, &MemoryCardFormat::releaseCardRequested, this, &CardController::releaseCardRequested,
+                Qt::DirectConnection);
+        connect(format_, &MemoryCardFormat::formatFinished, this, [this] { updateModelInfo(); });
+    }
+    format_->formatMemoryCard(window, QString::fromStdString(manager().settingDirPath()));
+}
+
 void CardController::showWebSettingWindow() {
     if (WebSettingWindowController::instance()) return;  // one settings window at a time
     const M420SettingManager& m = manager();
     auto* window = new WebSettingWindowController(m.settingDirPath(), m.languages(), v_.mainWindow);
-    connect(window, &WebSettingWindowController::formatRequested, window, [window] {
-        QMessageBox box(QMessageBox::Information, "Tarvik Viewer",
-                        tr("Formatting the memory card is not available yet."), QMessageBox::Ok, window);
-        box.exec();
-    });
+    connect(window, &WebSettingWindowController::formatRequested, this, &CardController::formatCard);
     window->centerInWindow(v_.mainWindow);
     window->beginModal();
 }

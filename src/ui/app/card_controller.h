@@ -3,12 +3,14 @@
 // clips scanned when it is recognised, and the way to its settings.
 
 #include <QObject>
+#include <string>
 
 #include "ui/app/main_window_views.h"
 
 namespace tarvik {
 
 class CatalogueController;
+class MemoryCardFormat;
 
 class CardController : public QObject {
     Q_OBJECT
@@ -27,15 +29,30 @@ public:
     void showSettingWindow_KRT();
     void showWebSettingWindow();
 
+    // Takes root as the card the user named (picker or command line) and
+    // runs what follows that choice: model picker, KRT pane or settings window.
+    void openChosenCard(const std::string& root);
+
+public slots:
+    // The settings pane's format button.
+    void formatCard();
+
 signals:
     // Playback pauses before a settings window opens.
     void pauseVideoRequested();
+    // Formatting is about to start: playback must stop and let go of the card's files.
+    void releaseCardRequested();
 
 private:
     void notYetAvailable(const QString& what);
+    // Shows the manager's model and the card's clips without searching the volumes.
+    void showChosenCardModel();
+    // Runs a pane modally over the main window with the given title bar; its result.
+    int showModal(class OrvoViewController& pane, bool showTitleBar);
 
     const MainWindowViews& v_;
     CatalogueController& catalogue_;
+    MemoryCardFormat* format_ = nullptr;
 };
 
 }  // namespace tarvik

@@ -120,7 +120,9 @@ TEST(CardWrites, ReadOnlyCardKeepsItsFileAndRaisesTheAlert) {
         m.setSettingDirPath(card.path());
         m.setModelType(1);
         m.loadData();
-        bool m420Alerted = sink.count == 1 && sink.title == kMemoryCardErrorTitleKey &&
+        const bool loadQuiet = sink.count == 0;
+        m.saveData();
+        bool m420Alerted = loadQuiet && sink.count == 1 && sink.title == kMemoryCardErrorTitleKey &&
                            sink.message == kMemoryCardErrorMessageKey && sink.button == "OK";
         KRTSettingManager& k = KRTSettingManager::SharedKRTSettingManager();
         k.loadData();
@@ -159,7 +161,8 @@ TEST(CardWrites, HostileCardsGiveNeutralValues) {
         EXPECT_TRUE(type == -1 || (c.what == std::string("named MiB") && type == 1)) << c.what << " " << type;
         EXPECT_EQ(M420SettingManager::loadLocalIDWithSDPath(card.path()), -1) << c.what;
         m.setModelType(1);
-        m.loadData();  // reads at most a record's worth, rewrites 432 bytes
+        m.loadData();  // reads at most a record's worth
+        ASSERT_TRUE(m.saveData());  // and the save writes this model's 432 bytes
         EXPECT_EQ(fs::file_size(card.file("SETTING/setup.cfg")), 432u) << c.what;
         EXPECT_EQ(m.languages(), (LanguageList{{0, "en"}, {1, "fr"}, {4, "es"}})) << c.what;
     }

@@ -108,6 +108,8 @@ TEST(SettingRecord, LongerFileIsCutShorterIsFilledFromMemory) {
     m.setSettingDirPath(card.path());
     m.setModelType(1);
     m.loadData();
+    EXPECT_EQ(card.read("SETTING/setup.cfg"), full) << "loading alone writes nothing";
+    ASSERT_TRUE(m.saveData());
     EXPECT_EQ(card.read("SETTING/setup.cfg"), full.substr(0, 432));
 
     // 202 bytes: cur_language and local_id lie past the end, and the field at
@@ -121,6 +123,7 @@ TEST(SettingRecord, LongerFileIsCutShorterIsFilledFromMemory) {
     q.setLocal_id(3);
     q.setParking_time_limit(48);
     q.loadData();
+    ASSERT_TRUE(q.saveData());
     const std::string out = card.read("SETTING/setup.cfg");
     ASSERT_EQ(out.size(), 464u);
     EXPECT_EQ(out.substr(0, 200), full.substr(0, 200));

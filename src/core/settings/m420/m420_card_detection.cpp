@@ -135,8 +135,10 @@ std::string M420SettingManager::findSDCardPath() {
     return {};
 }
 
-void M420SettingManager::loadVersionInfo() {
-    settingDirPath_ = findSDCardPath();
+void M420SettingManager::loadVersionInfo() { loadVersionInfoForPath(findSDCardPath()); }
+
+void M420SettingManager::loadVersionInfoForPath(const std::string& root) {
+    settingDirPath_ = root;
     modelType_ = loadModelTypeWithSDPath(settingDirPath_);
     if (modelType_ == 3 || modelType_ == 4) {
         const std::int64_t id = loadLocalIDWithSDPath(settingDirPath_);

@@ -90,9 +90,10 @@ void M420SettingManager::loadData() {
     std::string bytes;
     if (!readFileHead(file.string(), kMaxRecordBytes, &bytes)) return;
     const int n = getSettingVariableCount();
+    // Nothing is written here: the card's file is brought to this model's
+    // length by the next save, so merely looking at the settings leaves the
+    // card as it was.
     if (n >= 1) decodeFields(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size(), n);
-    // Writing straight back brings the card's file to this model's length.
-    saveData();
 }
 
 bool M420SettingManager::saveData() {

@@ -80,8 +80,8 @@ public:
     bool loadDefaultDataFromDefaultCfgFile();
 
     // --- setup.cfg --------------------------------------------------------
-    // Reads the card's record (defaults when there is none) and writes it
-    // straight back at the current model's length.
+    // Reads the card's record (defaults when there is none). Writes nothing:
+    // saveData brings the file to the current model's length.
     void loadData();
     // Writes the record atomically; on failure raises the memory-card alert
     // and returns false. Does nothing (true) without a card path.
@@ -106,6 +106,8 @@ public:
     static std::optional<std::string> loadVersionSDPath(const std::string& root);
     // Card search, model type, region (Q810 pair), firmware.
     void loadVersionInfo();
+    // The same for a card the user named: root becomes settingDirPath, no search.
+    void loadVersionInfoForPath(const std::string& root);
     // Fills languages from SETTING/lang/ver.dat (a fixed list without one).
     void loadLanguages();
     // The language pairs of a ver.dat text (empty when no line matches).
