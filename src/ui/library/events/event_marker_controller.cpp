@@ -12,16 +12,15 @@ namespace tarvik {
 
 EventMarkerController::EventMarkerController(PlaybackController& playback, QWidget* shortcutHost, QObject* parent)
     : QObject(parent), playback_(playback), view_(new EventMarkerView(playback.seekSlider().slider())) {
-    connect(playback.seekSlider().slider(), &QSlider::rangeChanged, this, [this] { refresh(); });
     auto* next = new QShortcut(QKeySequence(Qt::Key_BracketRight), shortcutHost);
     auto* prev = new QShortcut(QKeySequence(Qt::Key_BracketLeft), shortcutHost);
     connect(next, &QShortcut::activated, this, [this] { jumpToNextEvent(); });
     connect(prev, &QShortcut::activated, this, [this] { jumpToPreviousEvent(); });
 }
 
-void EventMarkerController::refresh() {
+void EventMarkerController::refresh(double clipSeconds) {
     const OrvoClipData& data = playback_.clipData();
-    double seconds = playback_.seekSlider().maxSliderValue();
+    double seconds = clipSeconds;
     if (seconds <= 0) seconds = data.clipDataCount() / 10.0;
     view_->setEvents(findDrivingEvents(data), seconds);
 }

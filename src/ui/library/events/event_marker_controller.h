@@ -19,9 +19,10 @@ public:
     EventMarkerController(PlaybackController& playback, QWidget* shortcutHost, QObject* parent = nullptr);
 
     EventMarkerView* view() const { return view_; }
-    // Reads the loaded clip's telemetry again; the slider's new range (a clip
-    // has been prepared) does this by itself.
-    void refresh();
+    // Reads the loaded clip's telemetry again: call when a clip is loaded
+    // (its length unknown, 0: the telemetry's is taken) and when the player
+    // knows the length.
+    void refresh(double clipSeconds = 0);
     // False when there is no event that way.
     bool jumpToNextEvent();
     bool jumpToPreviousEvent();
