@@ -29,6 +29,7 @@
 #include "ui/library/trips/card_report_window.h"
 #include "ui/library/trips/route_export_controller.h"
 #include "ui/library/trips/trip_features.h"
+#include "ui/library/trips/trip_list_view.h"
 #include "ui/telemetry/map_controller.h"
 
 using namespace tarvik;
@@ -101,7 +102,23 @@ private slots:
     void cleanupTestCase() { window_.reset(); }
 
     void tripPlaysThroughAndShowsOnTheMap() {
-        play("20261121_100000_F.avi");
+        // The list of trips: the drive, the minute, and each lone clip.
+        trips().showTripList(true);
+        TripListView* list = trips().tripList();
+        QVERIFY(list->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!list->isMeasuring(), 30000);
+        QCOMPARE(list->topLevelItemCount(), 4);
+        const QTreeWidgetItem* drive = list->topLevelItem(0);
+        QCOMPARE(drive->text(0), QString("2026-11-21 10:00:00"));
+        QCOMPARE(drive->text(1), QString("10:00:20"));
+        QCOMPARE(drive->text(2), QString("0:20"));
+        QCOMPARE(drive->text(4), QString("54"));
+        QCOMPARE(list->topLevelItem(1)->text(2), QString("1:00"));
+        QVERIFY(list->grab().save(shotPath("trip-list.png")));
+        // Double-clicking the drive plays its first clip and brings the clips back.
+        emit list->itemDoubleClicked(list->topLevelItem(0), 0);
+        QVERIFY(list->isHidden());
+        QTRY_COMPARE_WITH_TIMEOUT(ClipCatalogue::fileName(playback().currentVideoUrl()), std::string_view("20261121_100000_F.avi"), 10000);
         QTRY_COMPARE_WITH_TIMEOUT(trips().currentTrip().clips.size(), std::size_t(5), 20000);
         // Each clip hands over to the next without a click, up to the fifth.
         for (const char* next : {"20261121_100004_F.avi", "20261121_100008_F.avi", "20261121_100012_F.avi",

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QSlider>
 #include <QTableView>
+#include <QShortcut>
 #include <QTimer>
 #include <algorithm>
 
@@ -16,6 +17,7 @@
 #include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/trips/card_report_window.h"
 #include "ui/library/trips/route_export_controller.h"
+#include "ui/library/trips/trip_list_view.h"
 #include "ui/telemetry/map_controller.h"
 
 namespace tarvik {
@@ -28,7 +30,13 @@ TripFeatures::TripFeatures(QTableView* clipList, ClipCatalogue& catalogue, Playb
       playback_(playback),
       window_(window),
       events_(new EventMarkerController(playback, window, this)),
-      export_(new RouteExportController(window, this)) {
+      export_(new RouteExportController(window, this)),
+      tripList_(new TripListView(clipList)) {
+    connect(tripList_, &TripListView::tripActivated, this, [this](const Trip& t) { playTrip(t); });
+    tripList_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(tripList_, &QWidget::customContextMenuRequested, this, &TripFeatures::showContextMenu);
+    auto* toggle = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_T), window);
+    connect(toggle, &QShortcut::activated, this, [this] { showTripList(tripList_->isHidden()); });
     // The player tells the covers when a clip's telemetry is in; the slider
     // moves with its signals blocked, so its time and length are polled.
     connect(&playback, &PlaybackController::movieViewCoversNeedUpdate, this, [this] {
@@ -148,8 +156,33 @@ CardReportWindow* TripFeatures::showCardReport() {
     return report_;
 }
 
+void TripFeatures::showTripList(bool on) {
+    if (on) tripList_->showTrips(catalogue_.selectedVideoDirectoryUrl());
+    else tripList_->hide();
+}
+
+bool TripFeatures::playTrip(const Trip& trip) {
+    if (trip.clips.empty()) return false;
+    const auto& list = catalogue_.filteredVideoFileList();
+    const auto it = std::find(list.begin(), list.end(), trip.clips.front().path);
+    if (it == list.end()) return false;
+    const int row = int(it - list.begin());
+    showTripList(false);
+    clipList_->selectRow(row);
+    playback_.playVideoWithIdx(row);
+    return true;
+}
+
 void TripFeatures::showContextMenu(const QPoint& at) {
     QMenu menu(clipList_);
+    if (tripList_->isVisible()) {
+        menu.addAction(tr("Show clips"), this, [this] { showTripList(false); });
+        menu.exec(tripList_->viewport()->mapToGlobal(at));
+        return;
+    }
+    menu.addAction(tr("Show trips"), this, [this] { showTripList(true); })
+        ->setEnabled(!catalogue_.selectedVideoDirectoryUrl().empty());
+    menu.addSeparator();
     const bool any = !selectedClips().empty();
     menu.addAction(tr("Export route of the selected clips..."), this, [this] { exportSelection(); })->setEnabled(any);
     menu.addAction(tr("Export route of the whole trip..."), this, [this] { exportTripOfSelection(); })->setEnabled(any);

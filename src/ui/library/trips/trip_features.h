@@ -22,6 +22,7 @@ class ClipCatalogue;
 class EventMarkerController;
 class PlaybackController;
 class RouteExportController;
+class TripListView;
 
 class TripFeatures : public QObject {
     Q_OBJECT
@@ -45,6 +46,11 @@ public:
     bool exportSelection();
     bool exportTripOfSelection();
     CardReportWindow* showCardReport();
+    // Trips in place of the clips in the list, or the clips again.
+    void showTripList(bool on);
+    TripListView* tripList() const { return tripList_; }
+    // Plays the trip's first clip (when the list's filter shows it).
+    bool playTrip(const Trip& trip);
 
 private:
     void clipPrepared();
@@ -58,6 +64,7 @@ private:
     EventMarkerController* events_;
     RouteExportController* export_;
     QPointer<CardReportWindow> report_;
+    TripListView* tripList_;
     std::string tripsRoot_;
     std::vector<Trip> trips_;
     Trip trip_;
