@@ -1,9 +1,11 @@
 #include "ui/library/trips/trip_features.h"
 
+#include <QApplication>
 #include <QItemSelectionModel>
 #include <QMenu>
 #include <QSlider>
 #include <QTableView>
+#include <QThread>
 #include <QShortcut>
 #include <QTimer>
 #include <algorithm>
@@ -88,17 +90,22 @@ void TripFeatures::clipPrepared() {
                           trip.clips.size() == trip_.clips.size();
     if (!sameTrip) {
         trip_ = trip;
-        route_ = readTripRoute(trip_).points;
-        if (map) {
-            std::string text;
-            char buf[48];
-            for (const RoutePoint& p : route_) {
-                std::snprintf(buf, sizeof buf, "%s%.6f,%.6f", text.empty() ? "" : ";", p.lat, p.lng);
-                text += buf;
-            }
-            // One clip alone is already drawn by the dashboard.
-            map->run(trip_.clips.size() > 1 ? QString("setTripRoute('%1')").arg(QString::fromStdString(text))
-                                            : QStringLiteral("clearTrip()"));
+        route_.clear();
+        if (map) map->run(QStringLiteral("clearTrip()"));
+        // One clip alone is already drawn by the dashboard. A trip of MP4
+        // clips costs an ffmpeg run a clip, so the route is read off the
+        // interface thread and drawn when it is in.
+        if (trip_.clips.size() > 1) {
+            const int generation = ++routeGeneration_;
+            QPointer<TripFeatures> self(this);
+            QThread* worker = QThread::create([self, trip, generation] {
+                std::vector<RoutePoint> points = readTripRoute(trip).points;
+                QMetaObject::invokeMethod(qApp, [self, points = std::move(points), generation]() mutable {
+                    if (self && self->routeGeneration_ == generation) self->showTripRoute(std::move(points));
+                });
+            });
+            connect(worker, &QThread::finished, worker, &QObject::deleteLater);
+            worker->start();
         }
     }
     clipOffset_ = index >= 0 ? double(trip_.clips[std::size_t(index)].start - trip_.start) : 0.0;
@@ -106,8 +113,22 @@ void TripFeatures::clipPrepared() {
     playingTimeChanged(0);
 }
 
+void TripFeatures::showTripRoute(std::vector<RoutePoint> points) {
+    route_ = std::move(points);
+    driven_ = -1;
+    MapController* map = playback_.dashboardWidgets().mapController;
+    if (!map) return;
+    std::string text;
+    char buf[48];
+    for (const RoutePoint& p : route_) {
+        std::snprintf(buf, sizeof buf, "%s%.6f,%.6f", text.empty() ? "" : ";", p.lat, p.lng);
+        text += buf;
+    }
+    map->run(QString("setTripRoute('%1')").arg(QString::fromStdString(text)));
+}
+
 void TripFeatures::playingTimeChanged(int milliseconds) {
-    if (trip_.clips.size() < 2) return;
+    if (trip_.clips.size() < 2 || route_.empty()) return;
     const double t = clipOffset_ + milliseconds / SeekSliderController::kUnitsPerSecond;
     const int n = int(std::upper_bound(route_.begin(), route_.end(), t,
                                        [](double s, const RoutePoint& p) { return s < p.seconds; }) -

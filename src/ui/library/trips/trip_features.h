@@ -55,6 +55,7 @@ public:
 private:
     void clipPrepared();
     void playingTimeChanged(int milliseconds);
+    void showTripRoute(std::vector<RoutePoint> points);
     void showContextMenu(const QPoint& at);
 
     QTableView* clipList_;
@@ -73,6 +74,7 @@ private:
     double shownLength_ = -1;
     double clipOffset_ = 0;
     int driven_ = -1;
+    int routeGeneration_ = 0;
 };
 
 }  // namespace tarvik
