@@ -35,7 +35,8 @@ std::uint32_t le32(const unsigned char* p) {
 // Duration from the movie header inside moov.
 double mvhdSeconds(int fd, std::uint64_t from, std::uint64_t end) {
     unsigned char h[16];
-    for (std::uint64_t off = from; off + 8 <= end;) {
+    int boxes = 0;
+    for (std::uint64_t off = from; off + 8 <= end && boxes++ < 4096;) {
         if (!readAt(fd, off, h, 8)) return 0;
         std::uint64_t size = be32(h);
         if (size < 8 || off + size > end) return 0;
