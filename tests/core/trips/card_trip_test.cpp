@@ -213,7 +213,7 @@ TEST(CardCheck, NamesEveryKindOfFault) {
 
 TEST(CardCheck, DemoCardIsWell) {
     cardgen::CardOptions o;
-    o.seconds = 3;
+    o.seconds = 30;  // long enough that the tail text after a MOV's boxes looks like a box
     o.width = 64;
     o.height = 36;
     Card card(cardgen::demoCardPlan(o));

@@ -34,6 +34,10 @@ TEST(ClipContainer, HeadersDecideWithoutDecoding) {
     EXPECT_DOUBLE_EQ(good.seconds, 61.5);
 
     EXPECT_EQ(inspect(ftyp + box("mdat", std::string(100, 'x'))).state, ContainerState::NoIndex);
+    // Telemetry text after the index, as tail-text cameras write it: still playable.
+    const std::string withTail = ftyp + box("moov", box("mvhd", mvhd)) + box("mdat", "x") + "QZRVT7 gsensor 1,2,3";
+    EXPECT_EQ(inspect(withTail).state, ContainerState::Playable);
+    EXPECT_EQ(inspect(withTail.substr(0, withTail.size() - 2)).seconds, 61.5);
     // A box claiming more than the file holds, and one too small to be a box.
     EXPECT_EQ(inspect(ftyp + be32(0x7fffffff) + "mdat" + "short").state, ContainerState::Truncated);
     EXPECT_EQ(inspect(ftyp + be32(3) + "mdat").state, ContainerState::Truncated);

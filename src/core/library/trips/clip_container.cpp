@@ -63,6 +63,7 @@ ContainerInfo inspectIsoBmff(int fd, std::uint64_t fileSize) {
     int boxes = 0;
     for (std::uint64_t off = 0; off < fileSize && boxes < 4096; ++boxes) {
         if (off + 8 > fileSize || !readAt(fd, off, h, 8)) {
+            if (moov) break;
             info.state = ContainerState::Truncated;
             return info;
         }
@@ -78,6 +79,9 @@ ContainerInfo inspectIsoBmff(int fd, std::uint64_t fileSize) {
             size = fileSize - off;  // to the end of the file
         }
         if (size < header || off + size > fileSize) {
+            // Some cameras append their telemetry text after the last box;
+            // players stop at the index and never look there.
+            if (moov) break;
             info.state = ContainerState::Truncated;
             return info;
         }
