@@ -4,7 +4,7 @@ BUILD ?= build
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
-.PHONY: all deps configure build run test bench democard clean
+.PHONY: all deps configure build run test bench democard install clean
 
 all: build
 
@@ -35,6 +35,12 @@ test: build
 bench: build
 	cmake --build $(BUILD) --target benchmarks
 	for b in $(BUILD)/bench/bench_*; do [ -x "$$b" ] && "$$b" || exit 1; done
+
+# Installs the programs and their data into PREFIX (no root needed for a
+# prefix of one's own, e.g. make install PREFIX=$$HOME/.local).
+PREFIX ?= /usr/local
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
 
 clean:
 	rm -rf $(BUILD)

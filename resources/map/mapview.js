@@ -187,6 +187,9 @@
     moves += 1;
   };
 
+  // The trip overlay below draws on the same map.
+  window.__tarvikMap = function () { ensureMap(); return map; };
+
   window.removePolyLine = function () {
     ensureMap();
     if (route !== null) {
@@ -243,5 +246,47 @@
       };
     }
     return state;
+  };
+})();
+
+// A whole trip under the clip's own route: the stretch still ahead dashed,
+// the part already driven solid. setTripRoute(points) ('lat,lng;...' like
+// addPolyLine), setTripProgress(n) (the first n points are driven),
+// clearTrip(), tripState() for the tests.
+(function () {
+  'use strict';
+  var ahead = null, driven = null, points = [];
+
+  function mapOf() { return window.__tarvikMap ? window.__tarvikMap() : null; }
+
+  window.clearTrip = function () {
+    var map = mapOf();
+    if (map && ahead) map.removeLayer(ahead);
+    if (map && driven) map.removeLayer(driven);
+    ahead = driven = null;
+    points = [];
+  };
+
+  window.setTripRoute = function (text) {
+    window.clearTrip();
+    var map = mapOf();
+    if (!map) return;
+    points = String(text).split(';').map(function (p) {
+      var v = p.split(',');
+      return [Number(v[0]), Number(v[1])];
+    }).filter(function (v) { return isFinite(v[0]) && isFinite(v[1]) && (v[0] !== 0 || v[1] !== 0); });
+    if (points.length < 2) return;
+    ahead = L.polyline(points, { color: '#4aa3ff', weight: 4, opacity: 0.8, dashArray: '6 6', interactive: false }).addTo(map);
+    driven = L.polyline([], { color: '#ffb020', weight: 5, opacity: 0.95, interactive: false }).addTo(map);
+    map.fitBounds(ahead.getBounds(), { padding: [16, 16], maxZoom: 17, animate: false });
+  };
+
+  window.setTripProgress = function (n) {
+    if (!driven) return;
+    driven.setLatLngs(points.slice(0, Math.max(0, Math.min(points.length, n))));
+  };
+
+  window.tripState = function () {
+    return { points: points.length, driven: driven ? driven.getLatLngs().length : 0 };
   };
 })();

@@ -6,5 +6,7 @@ namespace tarvik::cli {
 int telemetryCommand(int argc, char** argv);
 int cardCommand(int argc, char** argv);
 int settingsCommand(int argc, char** argv);
+int tripsCommand(int argc, char** argv);
+int checkCommand(int argc, char** argv);
 
 }  // namespace tarvik::cli

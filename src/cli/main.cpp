@@ -10,7 +10,9 @@ void usage() {
                  "usage: tarvik telemetry CLIP [--format csv|gpx|geojson|kml]\n"
                  "       tarvik card [PATH] [--json]\n"
                  "       tarvik settings CARD [--json | set NAME=VALUE... | export]\n"
-                 "       tarvik settings apply PROFILE.json CARD...\n");
+                 "       tarvik settings apply PROFILE.json CARD...\n"
+                 "       tarvik trips CARD [--json]\n"
+                 "       tarvik check CARD [--json]\n");
 }
 }  // namespace
 
@@ -22,6 +24,8 @@ int main(int argc, char** argv) {
     if (!std::strcmp(argv[1], "telemetry")) return tarvik::cli::telemetryCommand(argc - 1, argv + 1);
     if (!std::strcmp(argv[1], "card")) return tarvik::cli::cardCommand(argc - 1, argv + 1);
     if (!std::strcmp(argv[1], "settings")) return tarvik::cli::settingsCommand(argc - 1, argv + 1);
+    if (!std::strcmp(argv[1], "trips")) return tarvik::cli::tripsCommand(argc - 1, argv + 1);
+    if (!std::strcmp(argv[1], "check")) return tarvik::cli::checkCommand(argc - 1, argv + 1);
     usage();
     return 2;
 }

@@ -55,6 +55,10 @@ CardPlan demoCardPlan(const CardOptions& options = {});
 // Told before each clip is written: its place in the plan, the plan's size, its path.
 using CardProgress = std::function<void(std::size_t index, std::size_t count, const std::string& relPath)>;
 
+// One drive in continuous recording: `pairs` front/rear AVI pairs of
+// clipSeconds each, back to back from 10:00:00, telemetry in the front clips.
+CardPlan tripCardPlan(int pairs, int clipSeconds, int width = 64, int height = 36);
+
 // Writes the whole card below root. Returns false with a message on failure.
 bool writeCard(const CardPlan& plan, const std::filesystem::path& root, std::string* error = nullptr,
                const CardProgress& progress = {});

@@ -11,6 +11,7 @@ packages=(
   libmpv-dev ffmpeg libjs-leaflet
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth libgl1-mesa-dri libglx-mesa0
+  desktop-file-utils appstream
   fonts-noto-cjk fonts-dejavu-core
   dbus python3-dbusmock udisks2 dosfstools
 )

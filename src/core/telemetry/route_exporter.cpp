@@ -54,31 +54,36 @@ std::vector<RoutePoint> RouteExporter::route(const OrvoClipData& d) {
     return out;
 }
 
-std::string RouteExporter::csv(const OrvoClipData& d) {
-    std::string out = "t,gx,gy,gz,lat,lng,speed\n";
+std::string RouteExporter::csv(const OrvoClipData& d) { return "t,gx,gy,gz,lat,lng,speed\n" + csvRows(d, 0); }
+
+std::string RouteExporter::csvRows(const OrvoClipData& d, double offset) {
+    std::string out;
     for (int i = 0; i < d.clipDataCount() && i < OrvoClipData::kCapacity; ++i)
-        out += fmt("%.1f,%.3f,%.3f,%.3f,%.6f,%.6f,%u\n", i / 10.0, d.getGx(i) / 128.0, d.getGy(i) / 128.0,
+        out += fmt("%.1f,%.3f,%.3f,%.3f,%.6f,%.6f,%u\n", offset + i / 10.0, d.getGx(i) / 128.0, d.getGy(i) / 128.0,
                    d.getGz(i) / 128.0, d.getGpsLat(i), d.getGpsLng(i), d.getGpsSpeed(i));
     return out;
 }
 
-std::string RouteExporter::gpx(const OrvoClipData& d, std::string_view name) {
+std::string RouteExporter::gpx(const OrvoClipData& d, std::string_view name) { return gpx(route(d), name); }
+std::string RouteExporter::kml(const OrvoClipData& d, std::string_view name) { return kml(route(d), name); }
+std::string RouteExporter::geoJson(const OrvoClipData& d, std::string_view name) { return geoJson(route(d), name); }
+
+std::string RouteExporter::gpx(const std::vector<RoutePoint>& r, std::string_view name) {
     std::string out =
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         "<gpx version=\"1.1\" creator=\"tarvik\" xmlns=\"http://www.topografix.com/GPX/1/1\">\n"
         "  <trk>\n    <name>" + xmlEscape(name) + "</name>\n    <trkseg>\n";
-    for (const RoutePoint& p : route(d))
+    for (const RoutePoint& p : r)
         out += fmt("      <trkpt lat=\"%.6f\" lon=\"%.6f\"><desc>t=%.1f s, %u km/h</desc></trkpt>\n", p.lat, p.lng,
                    p.seconds, p.speed);
     out += "    </trkseg>\n  </trk>\n</gpx>\n";
     return out;
 }
 
-std::string RouteExporter::kml(const OrvoClipData& d, std::string_view name) {
+std::string RouteExporter::kml(const std::vector<RoutePoint>& r, std::string_view name) {
     std::string out =
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         "<kml xmlns=\"http://www.opengis.net/kml/2.2\">\n  <Document>\n    <name>" + xmlEscape(name) + "</name>\n";
-    const auto r = route(d);
     if (!r.empty()) {
         // A line needs two positions; a single fix is a point.
         out += "    <Placemark>\n      <name>" + xmlEscape(name) + "</name>\n";
@@ -91,8 +96,7 @@ std::string RouteExporter::kml(const OrvoClipData& d, std::string_view name) {
     return out;
 }
 
-std::string RouteExporter::geoJson(const OrvoClipData& d, std::string_view name) {
-    const auto r = route(d);
+std::string RouteExporter::geoJson(const std::vector<RoutePoint>& r, std::string_view name) {
     std::string out = "{\"type\":\"FeatureCollection\",\"features\":[";
     if (!r.empty()) {
         out += "{\"type\":\"Feature\",\"properties\":{\"name\":\"" + jsonEscape(name) + "\"},\"geometry\":";

@@ -28,6 +28,12 @@ public:
     static std::string gpx(const OrvoClipData& data, std::string_view name);
     static std::string kml(const OrvoClipData& data, std::string_view name);
     static std::string geoJson(const OrvoClipData& data, std::string_view name);
+    // The same for a route already gathered, such as a whole trip's.
+    static std::string gpx(const std::vector<RoutePoint>& route, std::string_view name);
+    static std::string kml(const std::vector<RoutePoint>& route, std::string_view name);
+    static std::string geoJson(const std::vector<RoutePoint>& route, std::string_view name);
+    // CSV rows (no header) with t shifted by offsetSeconds, for clips that follow one another.
+    static std::string csvRows(const OrvoClipData& data, double offsetSeconds);
 };
 
 }  // namespace tarvik

@@ -24,6 +24,7 @@
 #include "ui/controls/image_button.h"
 #include "ui/controls/image_library.h"
 #include "ui/device/mount_watcher.h"
+#include "ui/library/trips/trip_features.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/player/orvo_av_view.h"
 
@@ -67,6 +68,7 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
     connect(playback_, &PlaybackController::movieViewCoversNeedUpdate, this,
             &MainWindowController::updateMovieViewCoverScrren);
     // ---- end of playback ----
+    trips_ = new TripFeatures(v_.fileListTableView, catalogue_->catalogue(), *playback_, window, this);
 
     auto& center = NotificationCenter::shared();
     connect(&center, &NotificationCenter::refreshLanguage, this, &MainWindowController::refreshLanguageHandler);

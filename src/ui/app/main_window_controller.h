@@ -19,6 +19,7 @@ class PlaybackController;
 class PreferencesMenuController;
 class SettingsAlertBox;
 class SplashWindow;
+class TripFeatures;
 
 class MainWindowController : public QObject {
     Q_OBJECT
@@ -41,6 +42,7 @@ public:
     CardController& card() { return *card_; }
     PreferencesMenuController& preferencesMenu() { return *prefsMenu_; }
     PlaybackController& playback() { return *playback_; }
+    TripFeatures& trips() { return *trips_; }
 
     void showMainWindow();
     void enableVideoControls(bool flag);
@@ -85,6 +87,7 @@ private:
     MountWatcher* mountWatcher_ = nullptr;
     std::unique_ptr<SettingsAlertBox> alertBox_;
     PlaybackController* playback_ = nullptr;
+    TripFeatures* trips_ = nullptr;
     QString fallbackFolder_;
     QString startFolder_;
     bool startFolderOpened_ = false;

@@ -1,5 +1,6 @@
 #include "ui/l10n/orvo_languages.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTranslator>
 
@@ -62,6 +63,11 @@ QString OrvoLanguages::currentLanguageCode() {
 }
 
 QString OrvoLanguages::tablePath(const QString& code) {
+    // An installed viewer takes the tables installed beside it, so that a
+    // packager can update a translation without rebuilding the program.
+    const QString installed = QCoreApplication::applicationDirPath() +
+                              QStringLiteral("/../share/tarvik/translations/tarvik_%1.qm").arg(code);
+    if (QCoreApplication::instance() && QFile::exists(installed)) return installed;
     return QStringLiteral(":/i18n/tarvik_%1.qm").arg(code);
 }
 

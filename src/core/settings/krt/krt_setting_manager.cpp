@@ -68,7 +68,9 @@ std::optional<std::string> KRTSettingManager::factoryDefaultsText() {
     fs::path dir = fs::read_symlink("/proc/self/exe", ec).parent_path();
     if (ec) return std::nullopt;
     for (int up = 0; up <= 3 && !dir.empty(); ++up, dir = dir.parent_path()) {
-        for (const fs::path& p : {dir / "settings" / kFactoryFileName, dir / kFactoryFileName})
+        // Beside the program in the build tree, or PREFIX/share/tarvik/settings once installed.
+        for (const fs::path& p : {dir / "settings" / kFactoryFileName, dir / kFactoryFileName,
+                                  dir / "share" / "tarvik" / "settings" / kFactoryFileName})
             if (fs::is_regular_file(p, ec)) return readText(p);
         if (dir == dir.root_path()) break;
     }

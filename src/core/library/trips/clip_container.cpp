@@ -1,0 +1,179 @@
+#include "core/library/trips/clip_container.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstring>
+
+namespace tarvik {
+
+namespace {
+
+// Reads exactly n bytes at off, or reports false.
+bool readAt(int fd, std::uint64_t off, void* buf, std::size_t n) {
+    auto* p = static_cast<char*>(buf);
+    while (n > 0) {
+        const ssize_t r = ::pread(fd, p, n, static_cast<off_t>(off));
+        if (r <= 0) return false;
+        p += r;
+        off += static_cast<std::uint64_t>(r);
+        n -= static_cast<std::size_t>(r);
+    }
+    return true;
+}
+
+std::uint32_t be32(const unsigned char* p) {
+    return std::uint32_t(p[0]) << 24 | std::uint32_t(p[1]) << 16 | std::uint32_t(p[2]) << 8 | p[3];
+}
+std::uint64_t be64(const unsigned char* p) { return std::uint64_t(be32(p)) << 32 | be32(p + 4); }
+std::uint32_t le32(const unsigned char* p) {
+    return std::uint32_t(p[3]) << 24 | std::uint32_t(p[2]) << 16 | std::uint32_t(p[1]) << 8 | p[0];
+}
+
+// Duration from the movie header inside moov.
+double mvhdSeconds(int fd, std::uint64_t from, std::uint64_t end) {
+    unsigned char h[16];
+    int boxes = 0;
+    for (std::uint64_t off = from; off + 8 <= end && boxes++ < 4096;) {
+        if (!readAt(fd, off, h, 8)) return 0;
+        std::uint64_t size = be32(h);
+        if (size < 8 || off + size > end) return 0;
+        if (!std::memcmp(h + 4, "mvhd", 4)) {
+            unsigned char b[32];
+            if (size < 8 + 32 || !readAt(fd, off + 8, b, 32)) return 0;
+            if (b[0] == 1) {  // 64-bit times
+                const std::uint32_t scale = be32(b + 20);
+                return scale ? double(be64(b + 24)) / scale : 0;
+            }
+            const std::uint32_t scale = be32(b + 12);
+            return scale ? double(be32(b + 16)) / scale : 0;
+        }
+        off += size;
+    }
+    return 0;
+}
+
+ContainerInfo inspectIsoBmff(int fd, std::uint64_t fileSize) {
+    ContainerInfo info;
+    bool moov = false;
+    unsigned char h[16];
+    // A camera's clip has a handful of top-level boxes; anything past this is hostile.
+    int boxes = 0;
+    for (std::uint64_t off = 0; off < fileSize && boxes < 4096; ++boxes) {
+        if (off + 8 > fileSize || !readAt(fd, off, h, 8)) {
+            if (moov) break;
+            info.state = ContainerState::Truncated;
+            return info;
+        }
+        std::uint64_t size = be32(h), header = 8;
+        if (size == 1) {
+            if (!readAt(fd, off + 8, h + 8, 8)) {
+                info.state = ContainerState::Truncated;
+                return info;
+            }
+            size = be64(h + 8);
+            header = 16;
+        } else if (size == 0) {
+            size = fileSize - off;  // to the end of the file
+        }
+        if (size < header || off + size > fileSize) {
+            // Some cameras append their telemetry text after the last box;
+            // players stop at the index and never look there.
+            if (moov) break;
+            info.state = ContainerState::Truncated;
+            return info;
+        }
+        if (!std::memcmp(h + 4, "moov", 4)) {
+            moov = true;
+            info.seconds = mvhdSeconds(fd, off + header, off + size);
+        }
+        off += size;
+    }
+    info.state = moov ? ContainerState::Playable : ContainerState::NoIndex;
+    return info;
+}
+
+ContainerInfo inspectAvi(int fd, std::uint64_t fileSize) {
+    ContainerInfo info;
+    unsigned char h[64];
+    if (!readAt(fd, 0, h, 12)) {
+        info.state = ContainerState::Truncated;
+        return info;
+    }
+    const std::uint64_t riffEnd = 8 + std::uint64_t(le32(h + 4));
+    if (riffEnd > fileSize) {
+        info.state = ContainerState::Truncated;
+        return info;
+    }
+    bool index = false;
+    int chunks = 0;
+    for (std::uint64_t off = 12; off + 8 <= riffEnd && chunks < 100000; ++chunks) {
+        if (!readAt(fd, off, h, 12)) break;
+        const std::uint64_t size = le32(h + 4);
+        if (off + 8 + size > riffEnd) {
+            info.state = ContainerState::Truncated;
+            return info;
+        }
+        if (!std::memcmp(h, "idx1", 4)) index = true;
+        if (!std::memcmp(h, "LIST", 4) && !std::memcmp(h + 8, "hdrl", 4)) {
+            unsigned char a[8 + 20];
+            // avih is the first chunk of hdrl.
+            if (readAt(fd, off + 12, a, sizeof a) && !std::memcmp(a, "avih", 4)) {
+                const double usPerFrame = le32(a + 8);
+                const double frames = le32(a + 8 + 16);
+                info.seconds = usPerFrame * frames / 1e6;
+            }
+            // OpenDML files index themselves from inside hdrl.
+            unsigned char b[4096];
+            const std::size_t n = static_cast<std::size_t>(std::min<std::uint64_t>(size, sizeof b));
+            if (readAt(fd, off + 8, b, n))
+                for (std::size_t i = 0; i + 4 <= n; ++i)
+                    if (!std::memcmp(b + i, "indx", 4)) index = true;
+        }
+        off += 8 + size + (size & 1);
+    }
+    info.state = index ? ContainerState::Playable : ContainerState::NoIndex;
+    return info;
+}
+
+}  // namespace
+
+ContainerInfo inspectClipContainer(const std::string& path) {
+    ContainerInfo info;
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return info;
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        ::close(fd);
+        return info;
+    }
+    const auto size = static_cast<std::uint64_t>(st.st_size);
+    unsigned char h[12];
+    if (size == 0) {
+        info.state = ContainerState::ZeroBytes;
+    } else if (size < 12 || !readAt(fd, 0, h, 12)) {
+        info.state = ContainerState::Truncated;
+    } else if (!std::memcmp(h, "RIFF", 4) && !std::memcmp(h + 8, "AVI ", 4)) {
+        info = inspectAvi(fd, size);
+    } else if (!std::memcmp(h + 4, "ftyp", 4) || !std::memcmp(h + 4, "mdat", 4) || !std::memcmp(h + 4, "moov", 4) ||
+               !std::memcmp(h + 4, "free", 4) || !std::memcmp(h + 4, "wide", 4)) {
+        info = inspectIsoBmff(fd, size);
+    }
+    ::close(fd);
+    return info;
+}
+
+const char* containerStateText(ContainerState state) {
+    switch (state) {
+    case ContainerState::Playable: return "playable";
+    case ContainerState::ZeroBytes: return "zero bytes";
+    case ContainerState::Truncated: return "truncated";
+    case ContainerState::NoIndex: return "no index";
+    case ContainerState::Unreadable: break;
+    }
+    return "unreadable";
+}
+
+}  // namespace tarvik

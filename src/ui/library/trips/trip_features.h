@@ -1,0 +1,80 @@
+#pragma once
+// What the viewer adds on top of single clips: event markers on the seek
+// slider, the route export, the card report, and the trip of the clip that
+// plays, drawn whole on the map with the part already driven set apart.
+// The main window creates one and otherwise leaves it alone.
+
+#include <QObject>
+#include <QPointer>
+#include <string>
+#include <vector>
+
+#include "core/library/trips/trip.h"
+#include "core/telemetry/route_exporter.h"
+
+class QWidget;
+class QTableView;
+
+namespace tarvik {
+
+class CardReportWindow;
+class ClipCatalogue;
+class EventMarkerController;
+class PlaybackController;
+class RouteExportController;
+class TripListView;
+
+class TripFeatures : public QObject {
+    Q_OBJECT
+public:
+    TripFeatures(QTableView* clipList, ClipCatalogue& catalogue, PlaybackController& playback, QWidget* window,
+                 QObject* parent = nullptr);
+    ~TripFeatures() override;
+
+    EventMarkerController& events() { return *events_; }
+    RouteExportController& routeExport() { return *export_; }
+
+    // The trip the clip belongs to (a trip of its own when it stands alone).
+    Trip tripOf(const std::string& clip);
+    const Trip& currentTrip() const { return trip_; }
+    const std::vector<RoutePoint>& currentTripRoute() const { return route_; }
+    // Points of the current trip already driven at the playing time.
+    int drivenPoints() const { return driven_; }
+
+    // The paths of the selected rows of the clip list.
+    std::vector<std::string> selectedClips() const;
+    bool exportSelection();
+    bool exportTripOfSelection();
+    CardReportWindow* showCardReport();
+    // Trips in place of the clips in the list, or the clips again.
+    void showTripList(bool on);
+    TripListView* tripList() const { return tripList_; }
+    // Plays the trip's first clip (when the list's filter shows it).
+    bool playTrip(const Trip& trip);
+
+private:
+    void clipPrepared();
+    void playingTimeChanged(int milliseconds);
+    void showTripRoute(std::vector<RoutePoint> points);
+    void showContextMenu(const QPoint& at);
+
+    QTableView* clipList_;
+    ClipCatalogue& catalogue_;
+    PlaybackController& playback_;
+    QWidget* window_;
+    EventMarkerController* events_;
+    RouteExportController* export_;
+    QPointer<CardReportWindow> report_;
+    TripListView* tripList_;
+    std::string tripsRoot_;
+    std::vector<Trip> trips_;
+    Trip trip_;
+    std::vector<RoutePoint> route_;
+    std::string shownClip_;
+    double shownLength_ = -1;
+    double clipOffset_ = 0;
+    int driven_ = -1;
+    int routeGeneration_ = 0;
+};
+
+}  // namespace tarvik
