@@ -3,6 +3,7 @@
 // clips scanned when it is recognised, and the way to its settings.
 
 #include <QObject>
+#include <string>
 
 #include "ui/app/main_window_views.h"
 
@@ -18,6 +19,10 @@ public:
     // Looks for the card among the mounted volumes and shows its model; a
     // recognised card's clips replace the list. True when a model is known.
     bool updateModelInfo();
+    // A folder opened in place of a card (the demo card) shows the model it
+    // names, as the command line's card report does; the settings button
+    // stays with the real card.
+    void showFolderModel(const std::string& folder);
 
     // The settings windows, by model type.
     void settingButtonTouched();
