@@ -1,7 +1,9 @@
 // The whole playback path in the real main window, on a generated card:
 // real ffmpeg conversion, two libmpv players, the dashboard and the map page.
 // Also saving and printing, and clips that must be refused without harm.
+#include <QApplication>
 #include <QJsonArray>
+#include <QMouseEvent>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
@@ -312,7 +314,13 @@ private slots:
         // A real double-click: the view reports it as doubleClicked and activated.
         list->scrollTo(list->model()->index(avi, 0));
         const QPoint at = list->visualRect(list->model()->index(avi, 0)).center();
-        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
+        // What the window system delivers for a double-click: a click, then a
+        // second press as a double-click event, then its release.
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
+        QMouseEvent second(QEvent::MouseButtonDblClick, at, list->viewport()->mapToGlobal(at), Qt::LeftButton,
+                           Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(list->viewport(), &second);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, at);
         QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
         QTest::qWait(300);
@@ -377,12 +385,14 @@ private slots:
         QVERIFY(playback().isVideoPaused());
 
         QScrollArea* scroll = window_->views().bigMovieViewScrollView;
-        const QPoint middle = big()->rect().center();
+        // The pointer moves over the screen, not with the picture it pans.
+        const QPoint middle = scroll->viewport()->rect().center();
+        auto on = [&](QPoint p) { return big()->mapFrom(scroll->viewport(), p); };
         auto drag = [&](QPoint by) {
-            QTest::mousePress(big(), Qt::LeftButton, {}, middle);
-            QTest::mouseMove(big(), middle + by / 2);
-            QTest::mouseMove(big(), middle + by);
-            QTest::mouseRelease(big(), Qt::LeftButton, {}, middle + by);
+            QTest::mousePress(big(), Qt::LeftButton, {}, on(middle));
+            QTest::mouseMove(big(), on(middle + by / 2));
+            QTest::mouseMove(big(), on(middle + by));
+            QTest::mouseRelease(big(), Qt::LeftButton, {}, on(middle + by));
         };
         drag({-40, -30});  // not zoomed: nothing to pan
         QCOMPARE(scroll->horizontalScrollBar()->value(), 0);
