@@ -162,8 +162,10 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(window_->mainWindow()));
         window_->catalogue().chooseFolder(card_.string());
         QCOMPARE(window_->catalogue().catalogue().rowCount(), 13);
-        fs::remove(rec / "20261121_090800.avi");
-        playback().setAlertPresenter([this](const QString& m, const QString& i) { alerts_ << m + "|" + i; });
+        playback().setAlertPresenter([this](const QString& m, const QString& i) {
+            alerts_ << m + "|" + i;
+            qInfo("alert: %s, status %s", qPrintable(alerts_.last()), orvoAVViewStatusName(big()->status()));
+        });
         auto dialogs = std::make_unique<ScriptedDialogs>();
         dialogs_ = dialogs.get();
         dialogs_->folder = dir_.filePath("saved");
@@ -411,6 +413,7 @@ private slots:
     void everyUnplayableClipEndsInOneAlert() {
         // Each clip that cannot be shown ends in exactly one alert within five
         // seconds, with wording that fits; a non-UTF-8 name is no reason to fail.
+        fs::remove(card_ / "cont_rec/20261121_090800.avi");  // listed, then gone
         const QString unsupported = tr_k("지원하지 않는 형식으로 인코딩된 동영상입니다.");
         const struct { std::string name; QString reason; } bad[] = {
             {"20261121_090700.mp4", unsupported},                           // random bytes

@@ -20,6 +20,10 @@ void ClipFailureWatch::watch() {
     timer_.start(kFirstPictureMs);
 }
 
+void ClipFailureWatch::opened() {
+    if (armed_ && !picture_) timer_.start(kFirstPictureMs);
+}
+
 void ClipFailureWatch::disarm() {
     armed_ = false;
     timer_.stop();

@@ -1,7 +1,8 @@
 #pragma once
 // A clip that cannot be shown must end in an alert, never in a black player:
 // the large player's error, its end before any picture, or no picture within
-// a few seconds of loading all count, and each load fails at most once.
+// a few seconds of loading or of opening all count, and each load fails at
+// most once.
 
 #include <QObject>
 #include <QPointer>
@@ -26,6 +27,10 @@ public:
 
     // A new clip starts loading into the view.
     void watch();
+    // The player opened the clip and found a picture stream: the time for
+    // the first picture starts again, so a slow start is not taken for a
+    // broken clip.
+    void opened();
     // Nothing is loading any more (stopped, or already refused).
     void disarm();
     bool hasShownPicture() const { return picture_; }

@@ -438,6 +438,7 @@ void PlaybackController::orvoAVViewDidUpdateStatus(OrvoAVView* view, OrvoAVViewS
     // A report from an earlier load of the same view no longer counts.
     if (view->status() != status) return;
     if (view == bigMovieView_ && status == OrvoAVViewStatusError) failureWatch_->reportFailure();
+    if (view == bigMovieView_ && status == OrvoAVViewStatusPrepared) failureWatch_->opened();
     if (view == bigMovieView_ && status == OrvoAVViewStatusPrepared) {
         seek_->setMaxSliderValue(bigMovieView_->duration());
         bigMovieView_->setVolume(volume_->volume());
