@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QRegularExpression>
+#include <QSlider>
 #include <QTimer>
 #include <QShortcut>
 #include <QSettings>
@@ -209,6 +210,16 @@ private slots:
         QVERIFY(!menus.languageEnglishMenuItem->isChecked());
         QTRY_VERIFY(menus.languageMenu->title() != english);
         QVERIFY(c.views().fileListAllButton_OEM->text() != QString("파일_전체"));
+    }
+
+    void aClickOnTheVolumeGrooveJumpsThere() {
+        MainWindowController c;
+        c.showMainWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(c.mainWindow()));
+        QSlider* volume = c.views().volumeSliderView;
+        volume->setEnabled(true);
+        QTest::mouseClick(volume, Qt::LeftButton, {}, QPoint(volume->width() / 4, volume->height() / 2));
+        QVERIFY2(qAbs(volume->value() - 25) <= 6, qPrintable(QString::number(volume->value())));
     }
 
     void frenchAndJapaneseReachEveryTextAndQtsDialogs() {
