@@ -377,6 +377,102 @@ Select a model name to apply its default settings.</translation>
         <source>(UTC+10:00) Canberra, Melbourne, Sidney</source>
         <translation>(UTC+10:00) Canberra, Melbourne, Sydney</translation>
     </message>
+    <message>
+        <source>이전 파일</source>
+        <translation>Previous clip</translation>
+    </message>
+    <message>
+        <source>이전 프레임</source>
+        <translation>Previous frame</translation>
+    </message>
+    <message>
+        <source>재생/일시정지</source>
+        <translation>Play/Pause</translation>
+    </message>
+    <message>
+        <source>정지</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>다음 프레임</source>
+        <translation>Next frame</translation>
+    </message>
+    <message>
+        <source>다음 파일</source>
+        <translation>Next clip</translation>
+    </message>
+    <message>
+        <source>스냅샷 저장</source>
+        <translation>Save snapshot</translation>
+    </message>
+    <message>
+        <source>인쇄</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>확대</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>축소</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>원래 크기</source>
+        <translation>Actual size</translation>
+    </message>
+    <message>
+        <source>상하 반전</source>
+        <translation>Turn upside down</translation>
+    </message>
+    <message>
+        <source>전방/후방 전환</source>
+        <translation>Swap front and rear</translation>
+    </message>
+    <message>
+        <source>전체 화면</source>
+        <translation>Full screen</translation>
+    </message>
+    <message>
+        <source>전체 화면 종료</source>
+        <translation>Exit full screen</translation>
+    </message>
+    <message>
+        <source>음소거</source>
+        <translation>Mute</translation>
+    </message>
+    <message>
+        <source>음량</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>최소화</source>
+        <translation>Minimise</translation>
+    </message>
+    <message>
+        <source>종료</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>삭제</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>동영상 파일을 찾을 수 없습니다.</source>
+        <translation>The video file cannot be found.</translation>
+    </message>
+    <message>
+        <source>동영상 파일을 읽을 수 없습니다.</source>
+        <translation>The video file cannot be read.</translation>
+    </message>
+    <message>
+        <source>동영상 파일이 비어 있습니다.</source>
+        <translation>The video file is empty.</translation>
+    </message>
+    <message>
+        <source>동영상 파일이 중간에 잘려 있습니다.</source>
+        <translation>The video file is cut short.</translation>
+    </message>
 </context>
 <context>
     <name>Localizable_M420</name>

@@ -377,5 +377,101 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>(UTC+10:00) Canberra, Melbourne, Sidney</source>
         <translation>(UTC+10:00) Canberra, Melbourne, Sydney</translation>
     </message>
+    <message>
+        <source>이전 파일</source>
+        <translation>Clip précédent</translation>
+    </message>
+    <message>
+        <source>이전 프레임</source>
+        <translation>Image précédente</translation>
+    </message>
+    <message>
+        <source>재생/일시정지</source>
+        <translation>Lecture/Pause</translation>
+    </message>
+    <message>
+        <source>정지</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>다음 프레임</source>
+        <translation>Image suivante</translation>
+    </message>
+    <message>
+        <source>다음 파일</source>
+        <translation>Clip suivant</translation>
+    </message>
+    <message>
+        <source>스냅샷 저장</source>
+        <translation>Enregistrer une capture</translation>
+    </message>
+    <message>
+        <source>인쇄</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>확대</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <source>축소</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <source>원래 크기</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>상하 반전</source>
+        <translation>Retourner l'image</translation>
+    </message>
+    <message>
+        <source>전방/후방 전환</source>
+        <translation>Permuter avant et arrière</translation>
+    </message>
+    <message>
+        <source>전체 화면</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>전체 화면 종료</source>
+        <translation>Quitter le plein écran</translation>
+    </message>
+    <message>
+        <source>음소거</source>
+        <translation>Couper le son</translation>
+    </message>
+    <message>
+        <source>음량</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>최소화</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>종료</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>삭제</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>동영상 파일을 찾을 수 없습니다.</source>
+        <translation>Le fichier vidéo est introuvable.</translation>
+    </message>
+    <message>
+        <source>동영상 파일을 읽을 수 없습니다.</source>
+        <translation>Le fichier vidéo ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>동영상 파일이 비어 있습니다.</source>
+        <translation>Le fichier vidéo est vide.</translation>
+    </message>
+    <message>
+        <source>동영상 파일이 중간에 잘려 있습니다.</source>
+        <translation>Le fichier vidéo est tronqué.</translation>
+    </message>
 </context>
 </TS>

@@ -377,6 +377,102 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>(UTC+10:00) Canberra, Melbourne, Sidney</source>
         <translation>(UTC+10:00) キャンベラ、メルボルン、シドニー</translation>
     </message>
+    <message>
+        <source>이전 파일</source>
+        <translation>前のファイル</translation>
+    </message>
+    <message>
+        <source>이전 프레임</source>
+        <translation>前のフレーム</translation>
+    </message>
+    <message>
+        <source>재생/일시정지</source>
+        <translation>再生/一時停止</translation>
+    </message>
+    <message>
+        <source>정지</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>다음 프레임</source>
+        <translation>次のフレーム</translation>
+    </message>
+    <message>
+        <source>다음 파일</source>
+        <translation>次のファイル</translation>
+    </message>
+    <message>
+        <source>스냅샷 저장</source>
+        <translation>スナップショットを保存</translation>
+    </message>
+    <message>
+        <source>인쇄</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>확대</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>축소</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>원래 크기</source>
+        <translation>元のサイズ</translation>
+    </message>
+    <message>
+        <source>상하 반전</source>
+        <translation>上下反転</translation>
+    </message>
+    <message>
+        <source>전방/후방 전환</source>
+        <translation>前方/後方の切替</translation>
+    </message>
+    <message>
+        <source>전체 화면</source>
+        <translation>全画面</translation>
+    </message>
+    <message>
+        <source>전체 화면 종료</source>
+        <translation>全画面を終了</translation>
+    </message>
+    <message>
+        <source>음소거</source>
+        <translation>ミュート</translation>
+    </message>
+    <message>
+        <source>음량</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>최소화</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>종료</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>삭제</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>동영상 파일을 찾을 수 없습니다.</source>
+        <translation>動画ファイルが見つかりません。</translation>
+    </message>
+    <message>
+        <source>동영상 파일을 읽을 수 없습니다.</source>
+        <translation>動画ファイルを読み込めません。</translation>
+    </message>
+    <message>
+        <source>동영상 파일이 비어 있습니다.</source>
+        <translation>動画ファイルが空です。</translation>
+    </message>
+    <message>
+        <source>동영상 파일이 중간에 잘려 있습니다.</source>
+        <translation>動画ファイルが途中で切れています。</translation>
+    </message>
 </context>
 <context>
     <name>Localizable_M420</name>

@@ -377,5 +377,101 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>(UTC+10:00) Canberra, Melbourne, Sidney</source>
         <translation>(UTC+10:00) Camberra, Melbourne, Sydney</translation>
     </message>
+    <message>
+        <source>이전 파일</source>
+        <translation>Clipe anterior</translation>
+    </message>
+    <message>
+        <source>이전 프레임</source>
+        <translation>Quadro anterior</translation>
+    </message>
+    <message>
+        <source>재생/일시정지</source>
+        <translation>Reproduzir/Pausar</translation>
+    </message>
+    <message>
+        <source>정지</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>다음 프레임</source>
+        <translation>Próximo quadro</translation>
+    </message>
+    <message>
+        <source>다음 파일</source>
+        <translation>Próximo clipe</translation>
+    </message>
+    <message>
+        <source>스냅샷 저장</source>
+        <translation>Salvar instantâneo</translation>
+    </message>
+    <message>
+        <source>인쇄</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>확대</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>축소</source>
+        <translation>Reduzir</translation>
+    </message>
+    <message>
+        <source>원래 크기</source>
+        <translation>Tamanho original</translation>
+    </message>
+    <message>
+        <source>상하 반전</source>
+        <translation>Inverter a imagem</translation>
+    </message>
+    <message>
+        <source>전방/후방 전환</source>
+        <translation>Trocar frente e traseira</translation>
+    </message>
+    <message>
+        <source>전체 화면</source>
+        <translation>Tela cheia</translation>
+    </message>
+    <message>
+        <source>전체 화면 종료</source>
+        <translation>Sair da tela cheia</translation>
+    </message>
+    <message>
+        <source>음소거</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>음량</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>최소화</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>종료</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>삭제</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>동영상 파일을 찾을 수 없습니다.</source>
+        <translation>O arquivo de vídeo não foi encontrado.</translation>
+    </message>
+    <message>
+        <source>동영상 파일을 읽을 수 없습니다.</source>
+        <translation>Não é possível ler o arquivo de vídeo.</translation>
+    </message>
+    <message>
+        <source>동영상 파일이 비어 있습니다.</source>
+        <translation>O arquivo de vídeo está vazio.</translation>
+    </message>
+    <message>
+        <source>동영상 파일이 중간에 잘려 있습니다.</source>
+        <translation>O arquivo de vídeo está truncado.</translation>
+    </message>
 </context>
 </TS>

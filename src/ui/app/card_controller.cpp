@@ -51,6 +51,15 @@ bool CardController::updateModelInfo() {
     return true;
 }
 
+void CardController::showFolderModel(const std::string& folder) {
+    M420SettingManager& m = manager();
+    const std::int64_t type = m.loadModelTypeWithSDPath(folder);
+    if (type == m420model::Unknown) return;
+    const bool listed = type != m420model::Newer && type >= 0 && type < static_cast<std::int64_t>(m.modelNameList().size());
+    const std::string name = listed ? m.modelNameList()[static_cast<std::size_t>(type)] : m.modelName();
+    if (!name.empty()) v_.modelTextField->setText(QString::fromStdString(name));
+}
+
 void CardController::settingButtonTouched() {
     emit pauseVideoRequested();
     M420SettingManager& m = manager();

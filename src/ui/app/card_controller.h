@@ -20,6 +20,10 @@ public:
     // Looks for the card among the mounted volumes and shows its model; a
     // recognised card's clips replace the list. True when a model is known.
     bool updateModelInfo();
+    // A folder opened in place of a card (the demo card) shows the model it
+    // names, as the command line's card report does; the settings button
+    // stays with the real card.
+    void showFolderModel(const std::string& folder);
 
     // The settings windows, by model type.
     void settingButtonTouched();

@@ -35,9 +35,10 @@ CatalogueController::CatalogueController(const MainWindowViews& views, QObject* 
     connect(v_.fileListRemoveButton_OEM, &QAbstractButton::clicked, this,
             &CatalogueController::removeFileButtonTouched);
     connect(v_.fileListTableView, &QTableView::doubleClicked, this, &CatalogueController::videoFileListDoubleClicked);
-    // Keyboard users open a clip with Enter on the list, as a double-click does,
-    // choose a folder with Ctrl+O and a recording type with Ctrl+1 to Ctrl+5.
-    connect(v_.fileListTableView, &QTableView::activated, this, &CatalogueController::videoFileListDoubleClicked);
+    // Keyboard users choose a folder with Ctrl+O and a recording type with
+    // Ctrl+1 to Ctrl+5. Enter on the list comes through the window's key
+    // router: the view's `activated` also fires on a double-click, which
+    // would load every clip twice.
     auto* open = new QShortcut(QKeySequence::Open, v_.mainWindow);
     connect(open, &QShortcut::activated, this, &CatalogueController::selectFolderButtonTouched);
     for (int i = 0; i < 5; ++i) {
@@ -66,8 +67,10 @@ void CatalogueController::refreshVideoFileList() {
 void CatalogueController::showScan() {
     showRoot();
     reloadTable();
-    // The first clip is selected, not played: playing waits for the user.
-    if (catalogue_.hasRows()) v_.fileListTableView->selectRow(0);
+    // The clip that plays keeps its place in a refreshed list; otherwise the
+    // first clip is selected, not played: playing waits for the user.
+    const int playing = model_->playingRow();
+    if (catalogue_.hasRows()) v_.fileListTableView->selectRow(playing >= 0 ? playing : 0);
 }
 
 void CatalogueController::clearVideoFileList() {
@@ -76,7 +79,13 @@ void CatalogueController::clearVideoFileList() {
     reloadTable();
 }
 
-void CatalogueController::reloadTable() { model_->reload(); }
+void CatalogueController::reloadTable() {
+    model_->reload();
+    const int playing = model_->playingRow();
+    if (playing >= 0) v_.fileListTableView->selectRow(playing);
+}
+
+void CatalogueController::setPlayingClip(const QByteArray& clip) { model_->setPlayingClip(clip); }
 
 void CatalogueController::initializeFileSortingButtons() {
     for (ImageButton* b : filterButtons_) b->setTitleColor(Qt::white);
@@ -125,6 +134,9 @@ void CatalogueController::selectFolderButtonTouched() {
     panel.setOption(QFileDialog::DontUseNativeDialog, true);  // so the button texts can be set
     panel.setLabelText(QFileDialog::Accept, tr_k("열기"));
     panel.setLabelText(QFileDialog::Reject, tr_k("취소"));
+    // Start where the clips come from: the card's folder, when one is open.
+    if (!catalogue_.selectedVideoDirectoryUrl().empty())
+        panel.setDirectory(QFile::decodeName(QByteArray::fromStdString(catalogue_.selectedVideoDirectoryUrl())));
     if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty()) return;
     chooseFolder(QFile::encodeName(panel.selectedFiles().constLast()).toStdString());
 }

@@ -33,6 +33,8 @@ public:
     void applyLanguageSettings();
     std::string takeBigVideoURL(int row) const { return catalogue_.takeBigVideoURL(row); }
     int selectedRow() const;
+    // Marks the clip that plays; a refreshed list selects it again.
+    void setPlayingClip(const QByteArray& clip);
 
     // The folder chooser, without the dialog: what choosing dir does.
     void chooseFolder(const std::string& dir);

@@ -19,6 +19,10 @@ public:
 
     // Call after the catalogue's filtered list changed.
     void reload();
+    // The clip that plays stands out in the list (the file system's bytes; empty for none).
+    void setPlayingClip(const QByteArray& clip);
+    // Its row in the filtered list, -1 when it is not there.
+    int playingRow() const;
 
 signals:
     // Whether the list has rows, each time the table is reloaded: the remove
@@ -27,6 +31,7 @@ signals:
 
 private:
     const ClipCatalogue& catalogue_;
+    QByteArray playing_;
 };
 
 }  // namespace tarvik

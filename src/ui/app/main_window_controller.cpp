@@ -10,13 +10,16 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QSlider>
+#include <QTableView>
 #include <QTimer>
 
 #include "core/settings/krt/krt_setting_manager.h"
 #include "ui/app/card_controller.h"
 #include "ui/app/catalogue_controller.h"
+#include "ui/app/key_table_router.h"
 #include "ui/app/main_window.h"
 #include "ui/app/main_window_layout.h"
+#include "ui/app/main_window_texts.h"
 #include "ui/app/preferences_menu_controller.h"
 #include "ui/app/prefs/notification_center.h"
 #include "ui/app/settings_alert_box.h"
@@ -25,6 +28,9 @@
 #include "ui/controls/image_library.h"
 #include "ui/device/mount_watcher.h"
 #include "ui/library/trips/trip_features.h"
+#include "ui/l10n/orvo_languages.h"
+#include "ui/l10n/qt_dialog_translations.h"
+#include "ui/library/playback/fullscreen_controller.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/player/orvo_av_view.h"
 
@@ -39,7 +45,6 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
     connect(v_.quitMenuItem, &QAction::triggered, this, [this] { appExitButtonTouched(); });
     connect(v_.appExitButton, &QAbstractButton::clicked, this, [this] { appExitButtonTouched(); });
     connect(v_.appMinimizeButton, &QAbstractButton::clicked, this, [this] { appMinimizeButtonTouched(); });
-    connect(v_.goHomepageButton, &QAbstractButton::clicked, this, [this] { goHomepageButtonTouched(); });
     connect(window, &MainWindow::resized, this, &MainWindowController::windowDidResize);
 
     splash_ = std::make_unique<SplashWindow>();
@@ -67,6 +72,11 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
             &MainWindowController::enableVideoControls);
     connect(playback_, &PlaybackController::movieViewCoversNeedUpdate, this,
             &MainWindowController::updateMovieViewCoverScrren);
+    connect(playback_, &PlaybackController::playingClipChanged, catalogue_, &CatalogueController::setPlayingClip);
+    connect(card_, &CardController::pauseVideoRequested, playback_, &PlaybackController::pauseVideo);
+    connect(card_, &CardController::releaseCardRequested, playback_, &PlaybackController::stopVideo,
+            Qt::DirectConnection);
+    new KeyTableRouter(window, v_.fileListTableView, [this] { catalogue_->videoFileListDoubleClicked(); }, this);
     // ---- end of playback ----
     trips_ = new TripFeatures(v_.fileListTableView, catalogue_->catalogue(), *playback_, window, this);
 
@@ -123,8 +133,13 @@ void MainWindowController::openStartFolder() {
     if (startFolderOpened_) return;
     startFolderOpened_ = true;
     QString folder = startFolder_;
-    if (folder.isEmpty() && !card_->updateModelInfo()) folder = fallbackFolder_;
+    bool fallback = false;
+    if (folder.isEmpty() && !card_->updateModelInfo()) {
+        folder = fallbackFolder_;
+        fallback = !folder.isEmpty();
+    }
     if (!folder.isEmpty()) catalogue_->chooseFolder(QFile::encodeName(folder).toStdString());
+    if (fallback) card_->showFolderModel(QFile::encodeName(folder).toStdString());
     emit startedUp();
 }
 
@@ -153,8 +168,10 @@ void MainWindowController::applyLanguageSettings() {
     QMetaObject::invokeMethod(
         this,
         [this] {
+            QtDialogTranslations::apply(OrvoLanguages::currentLanguageCode());
             prefsMenu_->applyLanguageSettings();
             catalogue_->applyLanguageSettings();
+            MainWindowTexts::applyToolTips(v_, playback_->fullScreen().controlBar());
             // At start the card is looked for once the start folder is settled.
             if (startFolderOpened_) updateModelInfo();
             catalogue_->initializeFileSortingButtons();

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "ui/app/main_window.h"
+#include "ui/controls/absolute_click_style.h"
 #include "ui/controls/image_button.h"
 #include "ui/controls/image_library.h"
 
@@ -73,8 +74,10 @@ void buildTitleStrip(MainWindowViews& v, QWidget* strip) {
     h->addWidget(v.modelTextField);
     v.settingsButton = button(strip, "settings_btn_1", "settingsButton", QSize(28, 28));
     h->addWidget(v.settingsButton);
+    // The maker's link leads nowhere the viewer can vouch for: the button is
+    // kept for the code that refers to it, but never shown.
     v.goHomepageButton = button(strip, "brand_link_norvane1", "goHomepageButton");
-    h->addWidget(v.goHomepageButton);
+    v.goHomepageButton->hide();
     v.mainVersionLabel = text(strip, "mainVersionLabel");
     v.mainVersionLabel->setStyleSheet("color: #80858c;");
     h->addWidget(v.mainVersionLabel);
@@ -224,6 +227,7 @@ void buildToolbar(MainWindowViews& v, QWidget* window) {
     v.volumeSliderView->setFocusPolicy(Qt::NoFocus);
     v.volumeSliderView->setRange(0, 100);
     v.volumeSliderView->setValue(100);
+    AbsoluteClickStyle::install(v.volumeSliderView);
     v.volumeSliderView->setGeometry(858, 32, 120, 16);
 }
 

@@ -1,7 +1,9 @@
 #include "ui/controls/image_button.h"
 
 #include <QMouseEvent>
+#include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 
 #include "ui/controls/image_library.h"
 
@@ -61,6 +63,8 @@ QSize ImageButton::sizeHint() const {
 
 void ImageButton::paintEvent(QPaintEvent*) {
     QPainter p(this);
+    // A disabled button must look it: the same image, faded.
+    if (!isEnabled()) p.setOpacity(0.35);
     const qreal dpr = devicePixelRatioF();
     QPixmap px = ImageLibrary::pixmap(imageName_, size() * dpr);
     if (!px.isNull()) {
@@ -68,8 +72,22 @@ void ImageButton::paintEvent(QPaintEvent*) {
         p.drawPixmap(0, 0, px);
     }
     if (!text().isEmpty()) {
+        // Longer translations shrink down to a readable size, then elide,
+        // rather than run over the neighbouring buttons.
+        const QRect box = rect().adjusted(3, 0, -3, 0);
+        QFont f = font();
+        const bool pixels = f.pixelSize() > 0;
+        auto size = [&] { return pixels ? qreal(f.pixelSize()) : f.pointSizeF(); };
+        const qreal minimum = std::min<qreal>(size(), pixels ? 9.0 : 7.0);
+        while (size() > minimum && QFontMetricsF(f).horizontalAdvance(text()) > box.width()) {
+            if (pixels)
+                f.setPixelSize(f.pixelSize() - 1);
+            else
+                f.setPointSizeF(std::max(minimum, f.pointSizeF() - 0.5));
+        }
+        p.setFont(f);
         p.setPen(titleColor_);
-        p.drawText(rect(), Qt::AlignCenter, text());
+        p.drawText(box, Qt::AlignCenter, QFontMetrics(f).elidedText(text(), Qt::ElideRight, box.width()));
     }
 }
 

@@ -1,6 +1,11 @@
 // The main window's own behaviour: its key table, the centring of the tool
 // bar and dashboard, the clip list wired to the catalogue, and the menus.
 #include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QRegularExpression>
+#include <QSlider>
+#include <QTimer>
 #include <QShortcut>
 #include <QSettings>
 #include <QFile>
@@ -21,6 +26,7 @@
 #include "ui/app/prefs/notification_center.h"
 #include "ui/app/prefs/qsettings_store.h"
 #include "ui/controls/image_button.h"
+#include "ui/library/playback/save_dialogs.h"
 
 using namespace tarvik;
 namespace fs = std::filesystem;
@@ -204,6 +210,57 @@ private slots:
         QVERIFY(!menus.languageEnglishMenuItem->isChecked());
         QTRY_VERIFY(menus.languageMenu->title() != english);
         QVERIFY(c.views().fileListAllButton_OEM->text() != QString("파일_전체"));
+    }
+
+    void aClickOnTheVolumeGrooveJumpsThere() {
+        MainWindowController c;
+        c.showMainWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(c.mainWindow()));
+        QSlider* volume = c.views().volumeSliderView;
+        volume->setEnabled(true);
+        QTest::mouseClick(volume, Qt::LeftButton, {}, QPoint(volume->width() / 4, volume->height() / 2));
+        QVERIFY2(qAbs(volume->value() - 25) <= 6, qPrintable(QString::number(volume->value())));
+    }
+
+    void frenchAndJapaneseReachEveryTextAndQtsDialogs() {
+        // Screenshots of the window and of the save panel in both languages,
+        // for a look; what a look would check is asserted too.
+        QSettingsStore::shared().setString("OrvoViewerLanguage", "en");
+        QSettingsStore::shared().setStringList("AppleLanguages", {"en"});
+        MainWindowController c;
+        c.showMainWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(c.mainWindow()));
+        c.catalogue().chooseFolder(card_.string());
+        PreferencesMenuController& menus = c.preferencesMenu();
+        QTRY_VERIFY(menus.languageMenu);
+        for (const auto& [item, code] : {std::pair{menus.languageFrenchMenuItem, "fr"}, {menus.languageJapaneseMenuItem, "ja"}}) {
+            const QString before = c.views().playPauseButton->toolTip();
+            item->trigger();
+            QTRY_VERIFY(c.views().playPauseButton->toolTip() != before);
+            for (ImageButton* b : c.mainWindow()->findChildren<ImageButton*>()) {
+                if (!b->isVisibleTo(c.mainWindow())) continue;
+                QVERIFY2(!b->toolTip().isEmpty(), qPrintable(b->objectName()));
+                // No Korean key left untranslated.
+                QVERIFY2(!b->toolTip().contains(QRegularExpression("[\\x{AC00}-\\x{D7A3}]")),
+                         qPrintable(b->objectName() + ": " + b->toolTip()));
+            }
+            QVERIFY(!c.views().goHomepageButton->isVisibleTo(c.mainWindow()));
+            QTest::qWait(200);
+            const QString dir = QString(TARVIK_BINARY_DIR) + "/";
+            QVERIFY(c.mainWindow()->grab().save(dir + "main_window_" + code + ".png"));
+
+            QString fileNameLabel;
+            QTimer::singleShot(500, [&] {
+                auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                if (!panel) return;
+                if (auto* label = panel->findChild<QLabel*>("fileNameLabel")) fileNameLabel = label->text();
+                panel->grab().save(dir + "save_dialog_" + code + ".png");
+                panel->reject();
+            });
+            QVERIFY(QtSaveDialogs().savePath(c.mainWindow(), "20261121_083200.avi").isEmpty());
+            QVERIFY2(!fileNameLabel.isEmpty() && fileNameLabel != "File &name:", qPrintable(fileNameLabel));
+        }
+        menus.languageEnglishMenuItem->trigger();
     }
 
     void storedPortugueseMarksNoLanguageItem() {

@@ -80,12 +80,18 @@ private slots:
         fs::remove_all(demo);
         fs::create_directories(demo / "evt_rec");
         std::ofstream(demo / "evt_rec" / "crash.avi") << "x";
+        std::string error;
+        QVERIFY2(cardgen::writeSettingsFiles(demo, cardgen::demoModelType(), &error), error.c_str());
         MainWindowController c;
         c.setFallbackFolder(QString::fromStdString(demo.string()));
         QSignalSpy up(&c, &MainWindowController::startedUp);
         c.start(10);
         QTRY_COMPARE(up.count(), 1);
         QCOMPARE(c.views().fileListTableView->model()->rowCount(), 1);
+        // The demo card names its model, as a camera card does; settings stay with a real card.
+        QVERIFY(c.views().modelTextField->text() != tr_k("unknown"));
+        QVERIFY(!c.views().modelTextField->text().isEmpty());
+        QVERIFY(!c.views().settingsButton->isEnabled());
         fs::remove_all(demo);
     }
 };

@@ -1,13 +1,19 @@
 // The whole playback path in the real main window, on a generated card:
 // real ffmpeg conversion, two libmpv players, the dashboard and the map page.
 // Also saving and printing, and clips that must be refused without harm.
+#include <QApplication>
 #include <QJsonArray>
+#include <QMouseEvent>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSignalSpy>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QElapsedTimer>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,11 +25,17 @@
 #include "core/library/clip_catalogue.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
+#include "ui/app/card_controller.h"
 #include "ui/app/catalogue_controller.h"
 #include "ui/app/main_window.h"
 #include "ui/app/main_window_controller.h"
 #include "ui/controls/image_button.h"
+#include "ui/l10n/orvo_languages.h"
+#include "ui/library/playback/clip_failure_watch.h"
+#include "ui/library/playback/clip_navigation.h"
 #include "ui/library/playback/clip_saver.h"
+#include "ui/library/playback/volume_controller.h"
+#include "ui/library/playback/zoom_controller.h"
 #include "ui/library/playback/dashboard_widgets.h"
 #include "ui/library/playback/fullscreen_control_bar.h"
 #include "ui/library/playback/fullscreen_controller.h"
@@ -113,7 +125,7 @@ private slots:
         cardgen::CardPlan plan = cardgen::demoCardPlan(options);
         std::erase_if(plan.clips, [](const cardgen::ClipPlan& c) {
             return c.relPath != "cont_rec/20261121_083000_F.mp4" && c.relPath != "cont_rec/20261121_083000_R.mp4" &&
-                   c.relPath != "cont_rec/20261121_083200.avi";
+                   c.relPath != "cont_rec/20261121_083200.avi" && c.relPath != "20261121_080100.MP4";
         });
         plan.files.clear();
         std::string error;
@@ -136,13 +148,24 @@ private slots:
         for (qsizetype i = idx + 8; i < avi.size(); ++i) avi[i] = static_cast<char>(0xA5 ^ (i * 31));
         writeBytes(rec / "20261121_090300.avi", avi);
         fs::copy_file(rec / "20261121_083200.avi", rec / "20261121_090400.avi");
+        // Names that are not UTF-8: one a good clip, one garbage. Random bytes
+        // with a clip's extension, and a clip that goes missing once listed.
+        fs::copy_file(rec / "20261121_083200.avi", rec / "20261121_090500_\xe9.avi");
+        QByteArray noise(200000, '\0');
+        for (qsizetype i = 0; i < noise.size(); ++i) noise[i] = static_cast<char>((i * 7919) ^ (i >> 5));
+        writeBytes(rec / "20261121_090600_\xff.avi", noise);
+        writeBytes(rec / "20261121_090700.mp4", noise);
+        fs::copy_file(rec / "20261121_083200.avi", rec / "20261121_090800.avi");
 
         window_ = std::make_unique<MainWindowController>();
         window_->showMainWindow();
         QVERIFY(QTest::qWaitForWindowExposed(window_->mainWindow()));
         window_->catalogue().chooseFolder(card_.string());
-        QCOMPARE(window_->catalogue().catalogue().rowCount(), 8);
-        playback().setAlertPresenter([this](const QString& m, const QString& i) { alerts_ << m + "|" + i; });
+        QCOMPARE(window_->catalogue().catalogue().rowCount(), 13);
+        playback().setAlertPresenter([this](const QString& m, const QString& i) {
+            alerts_ << m + "|" + i;
+            qInfo("alert: %s, status %s", qPrintable(alerts_.last()), orvoAVViewStatusName(big()->status()));
+        });
         auto dialogs = std::make_unique<ScriptedDialogs>();
         dialogs_ = dialogs.get();
         dialogs_->folder = dir_.filePath("saved");
@@ -285,32 +308,156 @@ private slots:
         QVERIFY(box.captured(1).toDouble() > box.captured(2).toDouble());
     }
 
-    void refusedClipsLeaveThePlayerUsable() {
-        // No picture, no bytes, no index: refused or Error. An AVI whose index
-        // is damaged still has its frames, so it may also play.
-        const QStringList bad = {"20261121_090000.mp4", "20261121_090100.mp4", "20261121_090200.mp4",
-                                 "20261121_090300.avi"};
-        for (const QString& name : bad) {
-            const qsizetype alertsBefore = alerts_.size();
-            doubleClick(rowOf(name.toStdString()));
-            QTRY_VERIFY2_WITH_TIMEOUT(alerts_.size() > alertsBefore || big()->status() == OrvoAVViewStatusError ||
-                                          big()->status() == OrvoAVViewStatusPrepared,
-                                      qPrintable(name), kLoadMs);
-            if (alerts_.size() > alertsBefore) {
-                QVERIFY(playback().currentVideoUrl().empty());
-                QVERIFY(!big()->hasMovie());
-                QVERIFY(window_->views().bigMovieCoverImageView->isVisible());
-            }
-            qInfo("%s: %s, %d alert(s)", qPrintable(name), orvoAVViewStatusName(big()->status()),
-                  int(alerts_.size() - alertsBefore));
-            if (!name.endsWith(".avi")) QVERIFY(big()->status() != OrvoAVViewStatusPrepared);
-        }
-        QVERIFY(!alerts_.isEmpty());
-        // The next good clip plays as if nothing had happened.
-        doubleClick(rowOf("20261121_090400.avi"));
+    void keysWinOverTheFocusedListAndActOnThePlayingClip() {
+        const MainWindowViews& v = window_->views();
+        QTableView* list = v.fileListTableView;
+        QSignalSpy loads(&playback(), &PlaybackController::playingClipChanged);
+        const int avi = rowOf("20261121_083200.avi");
+        // A real double-click: the view reports it as doubleClicked and activated.
+        list->scrollTo(list->model()->index(avi, 0));
+        const QPoint at = list->visualRect(list->model()->index(avi, 0)).center();
+        // What the window system delivers for a double-click: a click, then a
+        // second press as a double-click event, then its release.
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
+        QMouseEvent second(QEvent::MouseButtonDblClick, at, list->viewport()->mapToGlobal(at), Qt::LeftButton,
+                           Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(list->viewport(), &second);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, at);
         QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
-        QTRY_VERIFY_WITH_TIMEOUT(big()->currentTime() > 0.3, 5000);
+        QTest::qWait(300);
+        QCOMPARE(loads.size(), 1);
+        list->setFocus();
+        QVERIFY(list->hasFocus());
+        QCOMPARE(window_->catalogue().selectedRow(), avi);
+        QVERIFY(list->model()->data(list->model()->index(avi, 0), Qt::FontRole).value<QFont>().bold());
+
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY(playback().isVideoPaused());
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY(!playback().isVideoPaused());
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY(playback().isVideoPaused());
+
+        playback().volume().setVolume(0.5f);
+        QTest::keyClick(list, Qt::Key_Up);
+        QVERIFY2(playback().volume().volume() > 0.5f, qPrintable(QString::number(playback().volume().volume())));
+        QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Down);
+        QVERIFY(playback().volume().volume() < 0.5f);
+        QCOMPARE(window_->catalogue().selectedRow(), avi);  // the arrows did not move the selection
+
+        playback().setCurrentVideoTime(1.0);
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - 1.0) < 1e-3, 5000);
+        QTest::keyClick(list, Qt::Key_Right);
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - 1.0 - 1.0 / 30) < 2e-3, 5000);
+        QTest::keyClick(list, Qt::Key_Left);
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - 1.0) < 2e-3, 5000);
+        QVERIFY(playback().isVideoPaused());
+        QCOMPARE(loads.size(), 1);
+
+        // The selection moves away (a refresh, a click): Save and Next still
+        // go by the clip that plays.
+        const int other = rowOf("20261121_090400.avi");
+        window_->catalogue().refreshVideoFileList();
+        QCOMPARE(window_->catalogue().selectedRow(), avi);
+        list->selectRow(other);
+        playback().saver().saveFileButtonTouched();
+        QCOMPARE(dialogs_->proposed.last(), QString("20261121_083200.avi"));
+        QCOMPARE(playback().playingRow(), avi);
+
+        // Enter on the list plays the selected clip, once, and nothing more.
+        QTest::keyClick(list, Qt::Key_Return);
+        QTRY_COMPARE_WITH_TIMEOUT(loads.size(), 2, 5000);
+        QVERIFY(!playback().fullScreen().isFullScreenMode());
+        QCOMPARE(playback().playingRow(), other);
+        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
+        playback().playNextFileButtonTouched();
+        QCOMPARE(playback().playingRow(), nextClipRow(window_->catalogue().catalogue().filteredVideoFileList(), other));
+        QTest::qWait(300);
+        QCOMPARE(loads.size(), 3);
+    }
+
+    void settingsPauseAndAZoomedPicturePansWithADrag() {
+        doubleClick(rowOf("20261121_083200.avi"));
+        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+        // The settings button asks for a pause before any pane opens.
+        QVERIFY(QMetaObject::invokeMethod(&window_->card(), "pauseVideoRequested"));
+        QVERIFY(playback().isVideoPaused());
+
+        QScrollArea* scroll = window_->views().bigMovieViewScrollView;
+        // The pointer moves over the screen, not with the picture it pans.
+        const QPoint middle = scroll->viewport()->rect().center();
+        auto on = [&](QPoint p) { return big()->mapFrom(scroll->viewport(), p); };
+        auto drag = [&](QPoint by) {
+            QTest::mousePress(big(), Qt::LeftButton, {}, on(middle));
+            QTest::mouseMove(big(), on(middle + by / 2));
+            QTest::mouseMove(big(), on(middle + by));
+            QTest::mouseRelease(big(), Qt::LeftButton, {}, on(middle + by));
+        };
+        drag({-40, -30});  // not zoomed: nothing to pan
+        QCOMPARE(scroll->horizontalScrollBar()->value(), 0);
+        playback().zoom().videoScaleUpButtonTouched();
+        playback().zoom().videoScaleUpButtonTouched();
+        QTRY_VERIFY(scroll->horizontalScrollBar()->maximum() > 0);
+        const QPoint windowAt = window_->mainWindow()->pos();
+        const int x0 = scroll->horizontalScrollBar()->value(), y0 = scroll->verticalScrollBar()->value();
+        drag({-40, -30});
+        QCOMPARE(scroll->horizontalScrollBar()->value(), x0 + 40);
+        QCOMPARE(scroll->verticalScrollBar()->value(), y0 + 30);
+        QCOMPARE(window_->mainWindow()->pos(), windowAt);
+        playback().zoom().resetVideoScaleButtonTouched();
+    }
+
+    void everyUnplayableClipEndsInOneAlert() {
+        // Each clip that cannot be shown ends in exactly one alert within five
+        // seconds, with wording that fits; a non-UTF-8 name is no reason to fail.
+        fs::remove(card_ / "cont_rec/20261121_090800.avi");  // listed, then gone
+        const QString unsupported = tr_k("지원하지 않는 형식으로 인코딩된 동영상입니다.");
+        const struct { std::string name; QString reason; } bad[] = {
+            {"20261121_090700.mp4", unsupported},                           // random bytes
+            {"20261121_090600_\xff.avi", unsupported},                      // and a name that is not UTF-8
+            {"20261121_090100.mp4", tr_k("동영상 파일이 비어 있습니다.")},
+            {"20261121_090200.mp4", tr_k("동영상 파일이 중간에 잘려 있습니다.")},
+            {"20261121_090800.avi", tr_k("동영상 파일을 찾을 수 없습니다.")},
+            {"20261121_090000.mp4", unsupported},                           // sound only: nothing to see
+        };
+        for (const auto& clip : bad) {
+            const int row = rowOf(clip.name);
+            QVERIFY2(row >= 0, clip.name.c_str());
+            const qsizetype before = alerts_.size();
+            QElapsedTimer clock;
+            clock.start();
+            doubleClick(row);
+            QTRY_VERIFY2_WITH_TIMEOUT(alerts_.size() > before, clip.name.c_str(), 5000);
+            QVERIFY(clock.elapsed() < 5000);
+            QTest::qWait(ClipFailureWatch::kFirstPictureMs + 300);  // nothing left to fail a second time
+            QCOMPARE(alerts_.size(), before + 1);
+            QVERIFY2(alerts_.last().endsWith("|" + clip.reason), qPrintable(alerts_.last()));
+            QVERIFY(playback().currentVideoUrl().empty() && playback().playingRow() < 0);
+            QVERIFY(!big()->hasMovie());
+            QVERIFY(window_->views().bigMovieCoverImageView->isVisible());
+        }
+
+        // The card's HEVC clip shows a picture, or says it cannot, within five seconds.
+        QSignalSpy pictures(big(), &OrvoAVView::firstFrameShown);
+        const qsizetype before = alerts_.size();
+        doubleClick(rowOf("20261121_080100.MP4"));
+        QTRY_VERIFY_WITH_TIMEOUT(alerts_.size() > before || pictures.size() > 0, 5000);
+        qInfo("HEVC clip: %s", pictures.isEmpty() ? "refused" : "shown");
+
+        // A good clip under a name that is not UTF-8, then the next good clip, play.
+        for (const std::string name : {"20261121_090500_\xe9.avi", "20261121_090400.avi"}) {
+            QSignalSpy shown(big(), &OrvoAVView::firstFrameShown);
+            const qsizetype alertsBefore = alerts_.size();
+            doubleClick(rowOf(name));
+            QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
+            QTRY_VERIFY_WITH_TIMEOUT(!shown.isEmpty(), 5000);
+            QTRY_VERIFY_WITH_TIMEOUT(big()->currentTime() > 0.3, 5000);
+            QCOMPARE(alerts_.size(), alertsBefore);
+            QVERIFY(!big()->snapshot().isNull());  // the still, too, is read by the name's bytes
+        }
     }
 };
 

@@ -1,5 +1,7 @@
 #include "ui/library/playback/playback_controller.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QFile>
 #include <QItemSelectionModel>
@@ -13,6 +15,7 @@
 #include <QWebEngineView>
 
 #include "core/library/clip_catalogue.h"
+#include "core/library/clip_file_check.h"
 #include "core/library/recording_time.h"
 #include "core/library/conversion/clip_converter.h"
 #include "core/telemetry/orvo_clip_data.h"
@@ -21,12 +24,14 @@
 #include "ui/app/main_window_views.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
+#include "ui/library/playback/clip_failure_watch.h"
 #include "ui/library/playback/clip_navigation.h"
 #include "ui/library/playback/clip_saver.h"
 #include "ui/library/playback/dashboard_updater.h"
 #include "ui/library/playback/dashboard_widgets.h"
 #include "ui/library/playback/fullscreen_control_bar.h"
 #include "ui/library/playback/fullscreen_controller.h"
+#include "ui/library/playback/picture_drag_pan.h"
 #include "ui/library/playback/play_animation.h"
 #include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/playback/volume_controller.h"
@@ -48,8 +53,6 @@ private:
 };
 
 namespace {
-
-QString fromBytes(const std::string& path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
 
 OrvoAVView* playerIn(QWidget* host, const char* name) {
     auto* layout = new QVBoxLayout(host);
@@ -115,16 +118,21 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
     fullScreen_->setMapWebView(targets.mapWebView);
     zoom_->setFullScreenQuery([this] { return fullScreen_->isFullScreenMode(); });
     zoom_->changeVideoScale(zoom_->videoScale());
+    new PictureDragPan(v_.bigMovieViewScrollView, bigMovieView_, this);
     animation_ = new PlayAnimation(v_.shockCarImageView, v_.earthImageView, this);
 
     ClipSaver::Context saving;
     saving.window = v_.mainWindow;
     saving.catalogue = &catalogue_;
-    saving.selectedRow = [this] { return selectedRow(); };
+    saving.selectedRow = [this] { return actedOnRow(); };
     saving.currentVideoUrl = [this] { return currentVideoUrl_; };
     saving.bigMovieView = bigMovieView_;
     saving.transport = this;
     saver_ = new ClipSaver(std::move(saving), this);
+    failureWatch_ = new ClipFailureWatch(bigMovieView_, this);
+    connect(failureWatch_, &ClipFailureWatch::failed, this, [this] {
+        refuseClip(currentVideoUrl_, checkClipFile(currentVideoUrl_));
+    });
 
     alert_ = [this](const QString& message, const QString& informative) {
         // Window-modal and without a nested event loop: the window stays blocked
@@ -210,23 +218,23 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     dashboard_->setSubtitleData(nullptr);
     dashboard_->resetLastPosition();
 
+    failureWatch_->disarm();
+    // Whatever cannot even be read is refused before anything is started.
+    const ClipFileState state = checkClipFile(url);
+    if (state == ClipFileState::Missing || state == ClipFileState::Unreadable || state == ClipFileState::Empty)
+        return refuseClip(url, state);
     const auto files = convert_ ? convert_(url) : std::nullopt;
-    if (!files || files->empty()) {
-        currentVideoUrl_.clear();
-        // The players were reset: their covers come back before the alert.
-        emit movieViewCoversNeedUpdate();
-        showUnsupportedFileAlert();
-        return;
-    }
-    currentVideoUrl_ = url;
+    if (!files || files->empty()) return refuseClip(url, state);
+    setPlayingClip(url);
     emit enableVideoControlsRequested(true);
     showRecordingTime(url);
 
     bigVideoFilePath_ = files->front();
-    bigMovieView_->setFileName(fromBytes(bigVideoFilePath_));
+    bigMovieView_->setFilePath(QByteArray::fromStdString(bigVideoFilePath_));
+    failureWatch_->watch();
     if (files->size() >= 2) {
         smallVideoFilePath_ = (*files)[1];
-        smallMovieView_->setFileName(fromBytes(smallVideoFilePath_));
+        smallMovieView_->setFilePath(QByteArray::fromStdString(smallVideoFilePath_));
         smallMovieView_->setVolume(0.0f);
         v_.switchVideoButton->setEnabled(true);
     } else {
@@ -314,6 +322,22 @@ void PlaybackController::movieDidEnd() {
     dashboard_->showMapCover();
 }
 
+void PlaybackController::setPlayingClip(const std::string& url) {
+    currentVideoUrl_ = url;
+    emit playingClipChanged(QByteArray::fromStdString(url));
+}
+
+void PlaybackController::refuseClip(const std::string& url, ClipFileState state) {
+    failureWatch_->disarm();
+    pauseVideo();
+    bigMovieView_->reset();
+    smallMovieView_->reset();
+    setPlayingClip({});
+    // The players were reset: their covers come back before the alert.
+    emit movieViewCoversNeedUpdate();
+    if (alert_) alert_(tr_k("메모리카드 오류"), ClipFailureWatch::reasonText(url.empty() ? ClipFileState::Ok : state));
+}
+
 void PlaybackController::showUnsupportedFileAlert() {
     if (alert_) alert_(tr_k("메모리카드 오류"), tr_k("지원하지 않는 형식으로 인코딩된 동영상입니다."));
 }
@@ -326,6 +350,18 @@ void PlaybackController::playPauseButtonTouched(QObject*) {
 }
 
 void PlaybackController::stopButtonTouched(QObject*) { stopVideo(); }
+
+int PlaybackController::playingRow() const {
+    if (currentVideoUrl_.empty()) return -1;
+    const auto& list = catalogue_.filteredVideoFileList();
+    const auto it = std::find(list.begin(), list.end(), currentVideoUrl_);
+    return it == list.end() ? -1 : static_cast<int>(it - list.begin());
+}
+
+int PlaybackController::actedOnRow() const {
+    const int playing = playingRow();
+    return playing >= 0 ? playing : selectedRow();
+}
 
 int PlaybackController::selectedRow() const {
     const QItemSelectionModel* selection = v_.fileListTableView->selectionModel();
@@ -345,12 +381,12 @@ void PlaybackController::selectRowAndPlay(int row) {
 }
 
 void PlaybackController::playNextFileButtonTouched(QObject*) {
-    const int n = nextClipRow(catalogue_.filteredVideoFileList(), selectedRow());
+    const int n = nextClipRow(catalogue_.filteredVideoFileList(), actedOnRow());
     if (n >= 0 && n < catalogue_.rowCount()) selectRowAndPlay(n);
 }
 
 void PlaybackController::playPrevFileButtonTouched(QObject*) {
-    const int p = previousClipRow(catalogue_.filteredVideoFileList(), selectedRow());
+    const int p = previousClipRow(catalogue_.filteredVideoFileList(), actedOnRow());
     if (p >= 0) selectRowAndPlay(p);
 }
 
@@ -401,6 +437,8 @@ void PlaybackController::seekTimeSliderTouchedUp(double seconds) {
 void PlaybackController::orvoAVViewDidUpdateStatus(OrvoAVView* view, OrvoAVViewStatus status) {
     // A report from an earlier load of the same view no longer counts.
     if (view->status() != status) return;
+    if (view == bigMovieView_ && status == OrvoAVViewStatusError) failureWatch_->reportFailure();
+    if (view == bigMovieView_ && status == OrvoAVViewStatusPrepared) failureWatch_->opened();
     if (view == bigMovieView_ && status == OrvoAVViewStatusPrepared) {
         seek_->setMaxSliderValue(bigMovieView_->duration());
         bigMovieView_->setVolume(volume_->volume());
@@ -424,7 +462,10 @@ void PlaybackController::orvoAVViewDidUpdateTime(OrvoAVView* view, double) {
 }
 
 void PlaybackController::orvoAVViewDidPlayToEndTime(OrvoAVView* view) {
-    if (view == bigMovieView_) movieDidEnd();
+    if (view != bigMovieView_) return;
+    // An end before any picture is a clip that could not be shown.
+    if (!failureWatch_->hasShownPicture()) return failureWatch_->reportFailure();
+    movieDidEnd();
 }
 
 void PlaybackController::orvoAVViewDidRequestFullscreen(OrvoAVView* view) { fullscreenButtonTouched(view); }

@@ -20,6 +20,8 @@ namespace tarvik {
 
 struct MainWindowViews;
 class ClipCatalogue;
+class ClipFailureWatch;
+enum class ClipFileState;
 class ClipSaver;
 class DashboardUpdater;
 class FullScreenController;
@@ -64,6 +66,9 @@ public:
     const std::string& smallVideoFilePath() const { return smallVideoFilePath_; }
     bool isVideoPaused() const override { return isVideoPaused_; }
     bool isVideoSwitched() const;
+    // The row of the clip that plays in the filtered list, -1 when none does:
+    // the tool bar acts on it, wherever the list's selection has moved.
+    int playingRow() const;
 
     // Stops what plays and loads row `row` of the filtered list from its start.
     void playVideoWithIdx(int row);
@@ -105,6 +110,8 @@ signals:
     void enableVideoControlsRequested(bool enabled);
     // The players' covers should follow whether each player has a movie.
     void movieViewCoversNeedUpdate();
+    // The clip that plays changed (the file system's bytes; empty for none).
+    void playingClipChanged(const QByteArray& clip);
 
 private:
     class BigPlayerClock;
@@ -113,6 +120,10 @@ private:
     void loadTelemetry(const std::string& url);
     void setPlayPauseImages(const char* image);
     int selectedRow() const;
+    int actedOnRow() const;
+    // Ends the load of a clip that cannot be shown, with the alert that says why.
+    void refuseClip(const std::string& url, ClipFileState state);
+    void setPlayingClip(const std::string& url);
     void selectRowAndPlay(int row);
 
     const MainWindowViews& v_;
@@ -133,6 +144,7 @@ private:
     FullScreenController* fullScreen_;
     PlayAnimation* animation_;
     ClipSaver* saver_;
+    ClipFailureWatch* failureWatch_;
     AlertPresenter alert_;
     VideoConverter convert_;
     std::string currentVideoUrl_;

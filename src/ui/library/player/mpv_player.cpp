@@ -1,5 +1,6 @@
 #include "ui/library/player/mpv_player.h"
 
+#include <QFile>
 #include <mpv/client.h>
 #include <mpv/render_gl.h>
 
@@ -179,7 +180,7 @@ void MpvPlayer::command(std::initializer_list<const char*> args) {
     mpv_command_async(mpv_, 0, argv.data());
 }
 
-void MpvPlayer::load(const QString& path) {
+void MpvPlayer::load(const QString& path, const QByteArray& localPath) {
     path_ = path;
     loaded_ = hasVideo_ = eof_ = false;
     seeking_ = true;  // until playback (re)starts at the beginning
@@ -188,7 +189,8 @@ void MpvPlayer::load(const QString& path) {
         QMetaObject::invokeMethod(this, &MpvPlayer::failed, Qt::QueuedConnection);
         return;
     }
-    const QByteArray local = path.toUtf8();
+    // The file system's own bytes: a name need not be valid UTF-8.
+    const QByteArray local = localPath.isEmpty() ? QFile::encodeName(path) : localPath;
     command({"loadfile", local.constData(), "replace"});
 }
 

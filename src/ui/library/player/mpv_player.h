@@ -28,7 +28,8 @@ public:
 
     // False when libmpv could not be started at all.
     bool isValid() const { return mpv_ != nullptr; }
-    void load(const QString& path);
+    // localPath, when given, is what is opened: the file system's bytes for `path`.
+    void load(const QString& path, const QByteArray& localPath = {});
     // Stops everything and releases mpv and the GL objects; the object can
     // then be deleted later without waiting for mpv's threads to end.
     void shutdown();

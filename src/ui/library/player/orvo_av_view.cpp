@@ -1,6 +1,7 @@
 #include "ui/library/player/orvo_av_view.h"
 
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -69,8 +70,15 @@ void OrvoAVView::setStatus(OrvoAVViewStatus status) {
         Qt::QueuedConnection);
 }
 
-void OrvoAVView::setFileName(const QString& path) {
+void OrvoAVView::setFilePath(const QByteArray& localPath) { open(QFile::decodeName(localPath), localPath); }
+
+QByteArray OrvoAVView::localPath() const { return localPath_.isEmpty() ? QFile::encodeName(fileName_) : localPath_; }
+
+void OrvoAVView::setFileName(const QString& path) { open(path, {}); }
+
+void OrvoAVView::open(const QString& path, const QByteArray& localPath) {
     fileName_ = path;
+    localPath_ = localPath;
     if (player_) close();
     setStatus(OrvoAVViewStatusInit);
     if (!path.isEmpty()) prepareAsset();
@@ -91,7 +99,7 @@ void OrvoAVView::prepareAsset() {
         return;
     }
     loadWatchdog_->start(kLoadTimeoutMs);
-    player_->load(fileName_);
+    player_->load(fileName_, localPath());
 }
 
 void OrvoAVView::setUpPlaybackOfAsset(bool hasVideo) {
@@ -131,6 +139,7 @@ void OrvoAVView::rebuildObservers() {
     observers_ << connect(p, &MpvPlayer::firstFrameRendered, this, [this] {
         stopLoadingAnimationAndHandleError(false);
         setPictureVisible(true);
+        emit firstFrameShown();
     });
     lastTick_ = -1;
 }
@@ -246,7 +255,7 @@ QImage OrvoAVView::snapshot() const {
     QTemporaryDir dir;
     if (!dir.isValid()) return {};
     const QString png = dir.filePath("still.png");
-    if (!StillImageExtractor::extractPng(fileName_.toStdString(), at, png.toStdString())) return {};
+    if (!StillImageExtractor::extractPng(localPath().toStdString(), at, png.toStdString())) return {};
     QImage image(png);
     const QSize size = naturalSize();
     if (!image.isNull() && image.size() != size)
@@ -259,6 +268,7 @@ void OrvoAVView::swapPlayerItemWith(OrvoAVView* other) {
     removeObservers();
     other->removeObservers();
     std::swap(fileName_, other->fileName_);
+    std::swap(localPath_, other->localPath_);
     std::swap(requestedRate_, other->requestedRate_);
     std::swap(player_, other->player_);
     if (player_) player_->setParent(this);

@@ -42,6 +42,10 @@ public:
     // stored path again, so the load then fails: reset() first), sets Init
     // and starts loading when a path was given.
     void setFileName(const QString& path);
+    // The same for a path given as the file system's bytes, which need not be
+    // valid UTF-8: the player opens exactly these bytes.
+    void setFilePath(const QByteArray& localPath);
+    QByteArray localPath() const;
 
     void play();
     void pause();
@@ -80,6 +84,8 @@ public:
     MpvPlayer* player() const { return player_; }
 
 signals:
+    // The loaded clip's first picture is on screen.
+    void firstFrameShown();
     // The shown player or the way it is drawn changed.
     void pictureChanged();
 
@@ -88,6 +94,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void open(const QString& name, const QByteArray& localPath);
     void prepareAsset();
     void setUpPlaybackOfAsset(bool hasVideo);
     void rebuildObservers();
@@ -105,6 +112,7 @@ private:
     bool upsideDown_ = false;
     float rate_ = 0.0f;
     QString fileName_;
+    QByteArray localPath_;  // empty when the name is the path
     MpvPlayer* player_ = nullptr;
     QList<QMetaObject::Connection> observers_;
     long long lastTick_ = -1;
