@@ -377,5 +377,21 @@ Select a model name to apply its default settings.</translation>
         <source>(UTC+10:00) Canberra, Melbourne, Sidney</source>
         <translation>(UTC+10:00) Canberra, Melbourne, Sydney</translation>
     </message>
+    <message>
+        <source>휴지통으로 옮길까요?</source>
+        <translation>Move to the trash?</translation>
+    </message>
+    <message>
+        <source>삭제</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>재생 중인 영상은 삭제할 수 없습니다.</source>
+        <translation>A clip that is playing cannot be deleted.</translation>
+    </message>
+    <message>
+        <source>휴지통으로 옮기지 못했습니다.</source>
+        <translation>Could not move the clip to the trash.</translation>
+    </message>
 </context>
 </TS>

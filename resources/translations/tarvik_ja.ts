@@ -377,5 +377,21 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>(UTC+10:00) Canberra, Melbourne, Sidney</source>
         <translation>(UTC+10:00) キャンベラ、メルボルン、シドニー</translation>
     </message>
+    <message>
+        <source>휴지통으로 옮길까요?</source>
+        <translation>ゴミ箱に移動しますか？</translation>
+    </message>
+    <message>
+        <source>삭제</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>재생 중인 영상은 삭제할 수 없습니다.</source>
+        <translation>再生中の映像は削除できません。</translation>
+    </message>
+    <message>
+        <source>휴지통으로 옮기지 못했습니다.</source>
+        <translation>映像をゴミ箱に移動できませんでした。</translation>
+    </message>
 </context>
 </TS>

@@ -377,5 +377,21 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>(UTC+10:00) Canberra, Melbourne, Sidney</source>
         <translation>(UTC+10:00) Camberra, Melbourne, Sydney</translation>
     </message>
+    <message>
+        <source>휴지통으로 옮길까요?</source>
+        <translation>Mover para a lixeira?</translation>
+    </message>
+    <message>
+        <source>삭제</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>재생 중인 영상은 삭제할 수 없습니다.</source>
+        <translation>Um vídeo em reprodução não pode ser excluído.</translation>
+    </message>
+    <message>
+        <source>휴지통으로 옮기지 못했습니다.</source>
+        <translation>Não foi possível mover o vídeo para a lixeira.</translation>
+    </message>
 </context>
 </TS>

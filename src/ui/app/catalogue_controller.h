@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/library/clip_catalogue.h"
+#include "ui/app/clip_deleter.h"
 #include "ui/app/main_window_views.h"
 
 namespace tarvik {
@@ -33,6 +34,7 @@ public:
     void applyLanguageSettings();
     std::string takeBigVideoURL(int row) const { return catalogue_.takeBigVideoURL(row); }
     int selectedRow() const;
+    ClipDeleter& deleter() { return deleter_; }
 
     // The folder chooser, without the dialog: what choosing dir does.
     void chooseFolder(const std::string& dir);
@@ -54,6 +56,7 @@ private:
     const MainWindowViews& v_;
     ClipCatalogue catalogue_;
     ClipListModel* model_;
+    ClipDeleter deleter_;
     std::array<class ImageButton*, 5> filterButtons_;
 };
 
