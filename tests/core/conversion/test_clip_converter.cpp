@@ -218,7 +218,9 @@ TEST_F(ConversionTest, UncreatableCacheGivesNoResult) {
 }
 
 TEST_F(ConversionTest, AKilledRemuxLeavesNothingAndTheNextOpenConvertsAfresh) {
-    fs::path clip = makeClip("20261121_100000_F.mp4");
+    cardgen::VideoSpec spec;
+    spec.seconds = 12;
+    fs::path clip = makeClip("20261121_100000_F.mp4", spec);
     bool partialSeen = false;
     // ffmpeg reads the clip at its own pace and is killed halfway through it.
     ClipConverter slow(documents, [&](const ArgumentList& args) {
@@ -226,7 +228,7 @@ TEST_F(ConversionTest, AKilledRemuxLeavesNothingAndTheNextOpenConvertsAfresh) {
         if (std::find(a.begin(), a.end(), "-vcodec") == a.end())
             return ProcessRunner::run(Utils::GetFFMPEGPath(), a);
         a.insert(a.begin(), {"-readrate", "1"});
-        ProcessResult r = ProcessRunner::run(Utils::GetFFMPEGPath(), a, std::chrono::milliseconds(900));
+        ProcessResult r = ProcessRunner::run(Utils::GetFFMPEGPath(), a, std::chrono::seconds(4));
         partialSeen = fs::exists(a.back());
         EXPECT_TRUE(r.timedOut) << r.output;
         return r;
