@@ -148,8 +148,8 @@ bool isValidUtf8(const BoundedFile& file, std::size_t from) {
     // Three bytes past the block: a block ends before a character that
     // straddles it, never inside one (a longer run of continuation bytes is
     // invalid wherever it is cut).
-    std::vector<unsigned char> buf(kBlock + 3);
     const std::size_t n = file.size();
+    std::vector<unsigned char> buf(std::min(kBlock + 3, n > from ? n - from : 0));
     for (std::size_t b = from; b < n;) {
         const std::size_t want = std::min(buf.size(), n - b);
         const std::size_t got = file.readSome(b, buf.data(), want);

@@ -8,7 +8,8 @@
 namespace tarvik::text {
 
 TextStream::TextStream(const BoundedFile& file, std::size_t begin, std::size_t end, std::size_t capacity)
-    : file_(file), buf_(std::max<std::size_t>(capacity, 16)), begin_(0), end_(0) {
+    // No larger than the file: a small text costs a small buffer.
+    : file_(file), buf_(std::max<std::size_t>(std::min(capacity, file.size()), 16)), begin_(0), end_(0) {
     reset(begin, end);
 }
 
