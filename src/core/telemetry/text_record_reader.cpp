@@ -89,7 +89,7 @@ class TagScanner {
 public:
     static constexpr std::size_t kWindow = 1024 * 1024;
 
-    explicit TagScanner(const BoundedFile& file) : file_(file), buf_(kWindow) {}
+    explicit TagScanner(const BoundedFile& file) : file_(file), buf_(std::min(kWindow, file.size())) {}
 
     // The next tag at or after `from`; size() when there is none.
     std::size_t next(std::size_t from) {
