@@ -4,7 +4,7 @@ BUILD ?= build
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
-.PHONY: all deps configure build run test bench democard install clean
+.PHONY: all deps configure build run test sanitize bench democard install clean
 
 all: build
 
@@ -31,6 +31,19 @@ run: democard
 test: build
 	cd $(BUILD) && xvfb-run -a -s "-screen 0 1920x1080x24" \
 	  ctest --output-on-failure -j $(JOBS) --timeout 600
+	$(MAKE) sanitize
+
+# The core, the command line and their tests again, built by clang with
+# AddressSanitizer and UndefinedBehaviorSanitizer, and every fuzz corpus replayed.
+SANITIZE_BUILD ?= build-asan
+$(SANITIZE_BUILD)/build.ninja: CMakeLists.txt | deps
+	CC=clang CXX=clang++ cmake -S . -B $(SANITIZE_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DTARVIK_BUILD_UI=OFF -DTARVIK_BUILD_BENCH=OFF -DTARVIK_SANITIZE=ON -DTARVIK_BUILD_FUZZ=ON $(CMAKE_FLAGS)
+
+sanitize: $(SANITIZE_BUILD)/build.ninja
+	cmake --build $(SANITIZE_BUILD) -j $(JOBS)
+	cd $(SANITIZE_BUILD) && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
+	  ctest --output-on-failure -j $(JOBS) --timeout 900
 
 bench: build
 	cmake --build $(BUILD) --target benchmarks

@@ -66,6 +66,9 @@ endfunction()
 # file. Without DISPLAY the test runs on the offscreen platform; with it, on the
 # X server that `make test` provides (needed for OpenGL and the web engine).
 function(tarvik_ui_test src)
+  if(NOT TARVIK_BUILD_UI)
+    return()
+  endif()
   cmake_parse_arguments(T "DISPLAY;SERIAL" "TIMEOUT" "LIBS" ${ARGN})
   get_filename_component(name ${src} NAME_WE)
   add_executable(${name} ${src})

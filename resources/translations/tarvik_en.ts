@@ -473,6 +473,18 @@ Select a model name to apply its default settings.</translation>
         <source>동영상 파일이 중간에 잘려 있습니다.</source>
         <translation>The video file is cut short.</translation>
     </message>
+    <message>
+        <source>휴지통으로 옮길까요?</source>
+        <translation>Move to the trash?</translation>
+    </message>
+    <message>
+        <source>재생 중인 영상은 삭제할 수 없습니다.</source>
+        <translation>A clip that is playing cannot be deleted.</translation>
+    </message>
+    <message>
+        <source>휴지통으로 옮기지 못했습니다.</source>
+        <translation>Could not move the clip to the trash.</translation>
+    </message>
 </context>
 <context>
     <name>Localizable_M420</name>

@@ -473,5 +473,17 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>동영상 파일이 중간에 잘려 있습니다.</source>
         <translation>Le fichier vidéo est tronqué.</translation>
     </message>
+    <message>
+        <source>휴지통으로 옮길까요?</source>
+        <translation>Mettre à la corbeille ?</translation>
+    </message>
+    <message>
+        <source>재생 중인 영상은 삭제할 수 없습니다.</source>
+        <translation>Une vidéo en cours de lecture ne peut pas être supprimée.</translation>
+    </message>
+    <message>
+        <source>휴지통으로 옮기지 못했습니다.</source>
+        <translation>Impossible de mettre la vidéo à la corbeille.</translation>
+    </message>
 </context>
 </TS>

@@ -473,6 +473,18 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>동영상 파일이 중간에 잘려 있습니다.</source>
         <translation>動画ファイルが途中で切れています。</translation>
     </message>
+    <message>
+        <source>휴지통으로 옮길까요?</source>
+        <translation>ゴミ箱に移動しますか？</translation>
+    </message>
+    <message>
+        <source>재생 중인 영상은 삭제할 수 없습니다.</source>
+        <translation>再生中の映像は削除できません。</translation>
+    </message>
+    <message>
+        <source>휴지통으로 옮기지 못했습니다.</source>
+        <translation>映像をゴミ箱に移動できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>Localizable_M420</name>

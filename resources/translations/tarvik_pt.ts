@@ -473,5 +473,17 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>동영상 파일이 중간에 잘려 있습니다.</source>
         <translation>O arquivo de vídeo está truncado.</translation>
     </message>
+    <message>
+        <source>휴지통으로 옮길까요?</source>
+        <translation>Mover para a lixeira?</translation>
+    </message>
+    <message>
+        <source>재생 중인 영상은 삭제할 수 없습니다.</source>
+        <translation>Um vídeo em reprodução não pode ser excluído.</translation>
+    </message>
+    <message>
+        <source>휴지통으로 옮기지 못했습니다.</source>
+        <translation>Não foi possível mover o vídeo para a lixeira.</translation>
+    </message>
 </context>
 </TS>

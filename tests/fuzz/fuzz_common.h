@@ -14,7 +14,7 @@ namespace tarvik::fuzz {
 template <typename Reader>
 int check(const std::uint8_t* data, std::size_t size, Reader reader) {
     static auto clip = std::make_unique<OrvoClipData>();
-    MappedFile file(data, size);
+    BoundedFile file(data, size);
     const int n = reader(file, *clip);
     if (n < 0 || n > OrvoClipData::kCapacity || clip->gpsDataCount() < 0 || clip->gpsDataCount() > n) std::abort();
     clip->setClipDataCount(n);

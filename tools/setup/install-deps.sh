@@ -10,6 +10,7 @@ packages=(
   qt6-qpa-plugins libqt6svg6 qt6-translations-l10n
   libmpv-dev ffmpeg libjs-leaflet
   libgtest-dev libgmock-dev libbenchmark-dev
+  clang libclang-rt-14-dev
   xvfb xauth libgl1-mesa-dri libglx-mesa0
   desktop-file-utils appstream
   fonts-noto-cjk fonts-dejavu-core

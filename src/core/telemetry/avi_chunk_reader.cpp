@@ -15,6 +15,7 @@ namespace {
 
 // A second never holds more readings than this; later ones are dropped.
 constexpr std::size_t kMaxReadingsPerSecond = 60;
+constexpr std::size_t kMaxLongText = 64u << 10;
 
 std::uint32_t le32(const unsigned char* p) {
     return static_cast<std::uint32_t>(p[0]) | static_cast<std::uint32_t>(p[1]) << 8 |
@@ -29,7 +30,7 @@ bool isTextChunk(const unsigned char* c) {
 // chunks between two frames usually share one read.
 class WindowReader {
 public:
-    explicit WindowReader(const MappedFile& file) : file_(file) {}
+    explicit WindowReader(const BoundedFile& file) : file_(file) {}
     bool get(std::uint64_t pos, void* dst, std::size_t n) {
         if (pos < start_ || pos + n > start_ + len_) {
             if (pos >= file_.size()) return false;
@@ -45,7 +46,7 @@ public:
     }
 
 private:
-    const MappedFile& file_;
+    const BoundedFile& file_;
     unsigned char buf_[2048];
     std::uint64_t start_ = 0;
     std::size_t len_ = 0;
@@ -96,11 +97,13 @@ struct ChunkWalk {
 
 }  // namespace
 
-int readAviChunks(const MappedFile& file, AviFamily family, OrvoClipData& out) {
+int readAviChunks(const BoundedFile& file, AviFamily family, OrvoClipData& out) {
     out.setGpsDataCount(0);
-    const unsigned char* d = file.data();
     const std::size_t n = file.size();
-    if (n < 12 || std::memcmp(d, "RIFF", 4) != 0 || std::memcmp(d + 8, "AVI ", 4) != 0) return 0;
+    unsigned char head[12];
+    if (!file.readAt(0, head, sizeof head) || std::memcmp(head, "RIFF", 4) != 0 ||
+        std::memcmp(head + 8, "AVI ", 4) != 0)
+        return 0;
 
     auto walk = std::make_unique<ChunkWalk>(family);
     auto window = std::make_unique<WindowReader>(file);
@@ -124,8 +127,11 @@ int readAviChunks(const MappedFile& file, AviFamily family, OrvoClipData& out) {
                 if (!window->get(pos, small, len)) break;
                 walk->payload(small, len);
             } else {
-                // A long text chunk is read in place; the cameras write none.
-                walk->payload(d + pos, len);
+                // The cameras write no long text chunks; a record never needs
+                // more than the start of one.
+                std::vector<unsigned char> big(std::min(len, kMaxLongText));
+                if (!file.readAt(static_cast<std::size_t>(pos), big.data(), big.size())) break;
+                walk->payload(big.data(), big.size());
             }
         }
         pos += size + (size & 1);

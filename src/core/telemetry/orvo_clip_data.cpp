@@ -4,16 +4,21 @@
 
 #include "core/telemetry/telemetry_readers.h"
 #include "core/telemetry/telemetry_records.h"
-#include "core/util/mapped_file.h"
+#include "core/util/bounded_file.h"
 
 namespace tarvik {
 
 namespace {
+// A file that shrank or vanished under the reader (a card pulled out) gives
+// no samples rather than some.
 template <typename Reader>
-int readFile(const std::string& path, Reader reader, MappedFile::Access access = MappedFile::Access::Sequential) {
-    MappedFile file;
-    if (!file.open(path, access)) return 0;
-    return reader(file);
+int readFile(const std::string& path, OrvoClipData& out, Reader reader, bool random = false) {
+    BoundedFile file;
+    if (!file.open(path, random)) return 0;
+    const int n = reader(file);
+    if (!file.failed()) return n;
+    out.setGpsDataCount(0);
+    return 0;
 }
 
 bool hasSrtExtension(const std::string& path) {
@@ -44,13 +49,13 @@ void OrvoClipData::loadVideoFileCilpDataFromFilePath(const std::string& path) {
         clipDataCount_ = getM420AllDataFromSrtFile(path);
         return;
     }
-    // One map serves all three tries.
-    MappedFile file;
-    if (!file.open(path)) return;
-    int n = readers::readTextRecords(file, *this);
-    if (n == 0) n = readers::readTailText(file, *this);
-    if (n == 0) n = readers::readAviChunks(file, readers::AviFamily::General, *this);
-    clipDataCount_ = n;
+    // One open file serves all three tries.
+    clipDataCount_ = readFile(path, *this, [&](const BoundedFile& file) {
+        int n = readers::readTextRecords(file, *this);
+        if (n == 0 && !file.failed()) n = readers::readTailText(file, *this);
+        if (n == 0 && !file.failed()) n = readers::readAviChunks(file, readers::AviFamily::General, *this);
+        return n;
+    });
 }
 
 void OrvoClipData::loadVideoFileCilpDataFromFilePath_KRT(const std::string& path) {
@@ -59,29 +64,29 @@ void OrvoClipData::loadVideoFileCilpDataFromFilePath_KRT(const std::string& path
 }
 
 int OrvoClipData::getAllDataFromFileTail(const std::string& path) {
-    return readFile(path, [&](const MappedFile& f) { return readers::readTailText(f, *this); });
+    return readFile(path, *this, [&](const BoundedFile& f) { return readers::readTailText(f, *this); });
 }
 
 int OrvoClipData::getM420AllDataFromFile(const std::string& path) {
-    return readFile(path, [&](const MappedFile& f) { return readers::readTextRecords(f, *this); });
+    return readFile(path, *this, [&](const BoundedFile& f) { return readers::readTextRecords(f, *this); });
 }
 
 int OrvoClipData::getM420AllDataFromSrtFile(const std::string& path) {
-    return readFile(path, [&](const MappedFile& f) { return readers::readSrtCues(f, *this); });
+    return readFile(path, *this, [&](const BoundedFile& f) { return readers::readSrtCues(f, *this); });
 }
 
 int OrvoClipData::getAllDataFromFile(const char* path) {
     if (!path) return 0;
-    return readFile(path, [&](const MappedFile& f) {
+    return readFile(path, *this, [&](const BoundedFile& f) {
         return readers::readAviChunks(f, readers::AviFamily::General, *this);
-    }, MappedFile::Access::Sparse);
+    }, true);
 }
 
 int OrvoClipData::getAllDataFromFile_KRT(const char* path) {
     if (!path) return 0;
-    return readFile(path, [&](const MappedFile& f) {
+    return readFile(path, *this, [&](const BoundedFile& f) {
         return readers::readAviChunks(f, readers::AviFamily::Krt, *this);
-    }, MappedFile::Access::Sparse);
+    }, true);
 }
 
 std::uint32_t OrvoClipData::cal_string(std::string_view text) { return records::nmeaToMicroDegrees(text); }

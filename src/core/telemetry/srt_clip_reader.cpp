@@ -8,47 +8,47 @@
 #include "core/telemetry/telemetry_readers.h"
 #include "core/telemetry/telemetry_records.h"
 #include "core/telemetry/text_fields.h"
+#include "core/telemetry/text_stream.h"
 
 namespace tarvik::readers {
 
 namespace {
 
 // Walks an SRT text cue by cue the lenient way: white space between the parts
-// of a cue is skipped, the body runs up to the next empty line.
+// of a cue is skipped, the body runs up to the next empty line. The text is
+// read through a bounded window; a body longer than the window is cut.
 class CueScanner {
 public:
-    explicit CueScanner(std::string_view t, std::size_t pos = 0) : t_(t), pos_(pos) {}
+    explicit CueScanner(text::TextStream& t) : t_(t), pos_(t.begin()) {}
 
-    // The next cue's body (untrimmed) and where the cue began; false at the end.
+    // The next cue's body (untrimmed, valid until the next call) and where the
+    // cue began; false at the end.
     bool next(std::string_view& body, std::size_t& cueStart) {
         skipSpace();
-        if (pos_ >= t_.size()) return false;
+        if (pos_ >= t_.end()) return false;
         cueStart = pos_;
-        upTo("\n");  // cue number
+        skipTo("\n");  // cue number
         skipSpace();
-        upTo(" --> ");  // start time
+        skipTo(" --> ");  // start time
         skipSpace();
-        if (t_.substr(pos_, 3) == "-->") pos_ += 3;
+        if (t_.at(pos_) == '-' && t_.at(pos_ + 1) == '-' && t_.at(pos_ + 2) == '>') pos_ += 3;
         skipSpace();
-        upTo("\n");  // end time
+        skipTo("\n");  // end time
         skipSpace();
-        body = upTo("\n\n");
+        const std::size_t from = pos_;
+        skipTo("\n\n");
+        body = t_.view(from, pos_);
         return true;
     }
     std::size_t pos() const { return pos_; }
 
 private:
     void skipSpace() {
-        while (pos_ < t_.size() && text::isSpace(static_cast<unsigned char>(t_[pos_]))) ++pos_;
+        for (int c = t_.at(pos_); c >= 0 && text::isSpace(static_cast<unsigned char>(c)); c = t_.at(++pos_)) {
+        }
     }
-    std::string_view upTo(std::string_view stop) {
-        std::size_t e = t_.find(stop, pos_);
-        if (e == std::string_view::npos) e = t_.size();
-        std::string_view s = t_.substr(pos_, e - pos_);
-        pos_ = e;
-        return s;
-    }
-    std::string_view t_;
+    void skipTo(std::string_view stop) { pos_ = t_.find(stop, pos_); }
+    text::TextStream& t_;
     std::size_t pos_;
 };
 
@@ -109,11 +109,11 @@ bool cueReading(const Cue& cue, std::size_t pending, const GReading& last, GRead
 
 class SrtScan {
 public:
-    SrtScan(const MappedFile& file, std::string_view text) : file_(file), t_(text), second_(raw_) {}
+    explicit SrtScan(const BoundedFile& file)
+        : t_(file, 0, file.size()), replay_(file, 0, file.size(), kReplayWindow), second_(raw_) {}
 
     int run(OrvoClipData& out) {
         CueScanner cues(t_);
-        file_.scannedUpTo(0);
         std::string_view body;
         std::size_t cueStart = 0, secondStart = 0;
         GpsFix held;
@@ -131,8 +131,6 @@ public:
                 gpsSeen = true;
                 closeSecond(held, secondStart, cues.pos());
             }
-            file_.scannedUpTo(static_cast<std::size_t>(t_.data() + cueStart -
-                                                         reinterpret_cast<const char*>(file_.data())));
         }
         if (raw_.count() == 0 && second_.pending() > 0) {
             if (gpsSeen) {
@@ -141,12 +139,14 @@ public:
             }
             for (const GReading& r : second_.kept()) raw_.push(r, GpsFix{});
         } else if (second_.pending() > 0 && !raw_.full()) {
-            closeSecond(held, secondStart, t_.size());
+            closeSecond(held, secondStart, t_.end());
         }
         return raw_.finish(out);
     }
 
 private:
+    static constexpr std::size_t kReplayWindow = 64u << 10;
+
     void closeSecond(const GpsFix& fix, std::size_t from, std::size_t to) {
         if (!second_.needsReplay()) {
             second_.close(fix);
@@ -156,7 +156,8 @@ private:
         std::size_t idx[10];
         GReading chosen[10];
         const int want = SecondResampler::pick(second_.pending(), idx);
-        CueScanner cues(t_.substr(0, to), from);
+        replay_.reset(from, to);
+        CueScanner cues(replay_);
         std::string_view body;
         std::size_t cueStart = 0, k = 0;
         int got = 0;
@@ -173,8 +174,8 @@ private:
         second_.close(fix, chosen);
     }
 
-    const MappedFile& file_;
-    std::string_view t_;
+    text::TextStream t_;
+    text::TextStream replay_;
     RawSamples raw_;
     SecondResampler second_;
     std::vector<std::string_view> f_;
@@ -182,12 +183,10 @@ private:
 
 }  // namespace
 
-int readSrtCues(const MappedFile& file, OrvoClipData& out) {
+int readSrtCues(const BoundedFile& file, OrvoClipData& out) {
     out.setGpsDataCount(0);
-    const unsigned char* d = file.data();
-    const std::size_t n = file.size();
-    if (n == 0 || !text::isValidUtf8(file, 0)) return 0;
-    auto scan = std::make_unique<SrtScan>(file, std::string_view(reinterpret_cast<const char*>(d), n));
+    if (file.size() == 0 || !text::isValidUtf8(file, 0)) return 0;
+    auto scan = std::make_unique<SrtScan>(file);
     return scan->run(out);
 }
 

@@ -1,14 +1,19 @@
 #include "core/telemetry/subtitle_data.h"
 
 #include <cmath>
-#include <cstdlib>
+#include <optional>
 
 #include "core/telemetry/text_fields.h"
-#include "core/util/mapped_file.h"
+#include "core/telemetry/text_stream.h"
+#include "core/util/bounded_file.h"
 
 namespace tarvik {
 
 namespace {
+// Cue times hold minutes and seconds only: below 100 minutes.
+constexpr std::size_t kMaxTenths = 61000;
+constexpr std::int64_t kReach = 1000;  // ms a nearby position may be away
+
 bool blank(std::string_view line) {
     for (char c : line)
         if (!text::isSpace(static_cast<unsigned char>(c))) return false;
@@ -22,26 +27,47 @@ std::unique_ptr<SubtitleData> SubtitleData::fromPath(const std::string& path) {
     return d;
 }
 
+void SubtitleData::clear() {
+    tenths_.clear();
+    tenths_.shrink_to_fit();
+    cues_ = 0;
+}
+
 void SubtitleData::loadFromPath(const std::string& path) {
-    entries_.clear();
-    MappedFile file;
-    if (!file.open(path)) return;
-    loadFromText(std::string_view(reinterpret_cast<const char*>(file.data()), file.size()));
+    clear();
+    BoundedFile file;
+    if (!file.open(path) || !text::isValidUtf8(file, 0)) return;
+    // CR and LF are separators of their own: a CR LF file has an empty
+    // line after every line, which closes its cue before the data line.
+    text::LineReader lines(file, 0, file.size(), "\r\n");
+    parse([&](std::string_view& line) { return lines.next(line); });
+    // A track cut short while it was read is no track.
+    if (file.failed()) clear();
 }
 
 void SubtitleData::loadFromText(std::string_view t) {
-    entries_.clear();
+    clear();
     if (!text::isValidUtf8(reinterpret_cast<const unsigned char*>(t.data()), t.size())) return;
+    std::size_t pos = 0;
+    bool done = false;
+    parse([&](std::string_view& line) {
+        if (done) return false;
+        const std::size_t e = t.find_first_of("\r\n", pos);
+        line = t.substr(pos, e == std::string_view::npos ? t.npos : e - pos);
+        if (e == std::string_view::npos) done = true;
+        else pos = e + 1;
+        return true;
+    });
+}
+
+template <typename NextLine>
+void SubtitleData::parse(NextLine nextLine) {
     std::optional<SubtitleEntry> current;
     std::vector<std::string_view> parts, f;
-    std::size_t pos = 0;
-    for (;;) {
-        // CR and LF are separators of their own: a CR LF file has an empty
-        // line after every line, which closes its cue before the data line.
-        const std::size_t e = t.find_first_of("\r\n", pos);
-        const std::string_view line = t.substr(pos, e == std::string_view::npos ? t.npos : e - pos);
+    std::string_view line;
+    while (nextLine(line)) {
         if (blank(line)) {
-            if (current) entries_.push_back(*current);
+            if (current) add(*current);
             current.reset();
         } else if (auto timed = SubtitleEntry::entryWithTime(line)) {
             current = timed;
@@ -55,58 +81,103 @@ void SubtitleData::loadFromText(std::string_view t) {
                 else if (f[0] == "GPRMC" || f[0] == "GNRMC") current->parseGprmc(f);
             }
         }
-        if (e == std::string_view::npos) break;
-        pos = e + 1;
+    }
+    tenths_.shrink_to_fit();
+}
+
+void SubtitleData::add(const SubtitleEntry& e) {
+    ++cues_;
+    const std::size_t k = e.cts / 100;
+    if (k >= kMaxTenths) return;
+    if (k >= tenths_.size()) tenths_.resize(k + 1);
+    Tenth& s = tenths_[k];
+    const bool atStart = e.cts % 100 == 0;
+    // Of several cues at one time, the first counts.
+    if (atStart && !s.sensor) {
+        s.sensor = true;
+        s.gx = static_cast<std::int16_t>(e.gx());
+        s.gy = static_cast<std::int16_t>(e.gy());
+        s.gz = static_cast<std::int16_t>(e.gz());
+    }
+    if (e.lat == SubtitleEntry::kNoPosition) return;
+    const Point p{e.cts, e.lat, e.lng, e.speed};
+    if (atStart) {
+        if (!s.exact) s.exact = true, s.atStart = p;
+        return;
+    }
+    if (!s.low || p.cts < s.lowest.cts) s.low = true, s.lowest = p;
+    if (!s.high) {
+        s.high = true, s.highest = p;
+    } else if (p.cts > s.highest.cts) {
+        s.second = s.highest, s.high2 = true;
+        s.highest = p;
+    } else if (p.cts < s.highest.cts && (!s.high2 || p.cts > s.second.cts)) {
+        s.high2 = true, s.second = p;
     }
 }
 
 bool SubtitleData::getSensorAt(unsigned t, int& x, int& y, int& z) const {
-    const std::uint64_t target = static_cast<std::uint64_t>(t) * 100;
-    for (const SubtitleEntry& e : entries_) {
-        if (e.cts != target) continue;
-        x = e.gx();
-        y = e.gy();
-        z = e.gz();
-        return true;
+    if (t >= tenths_.size() || !tenths_[t].sensor) return false;
+    x = tenths_[t].gx;
+    y = tenths_[t].gy;
+    z = tenths_[t].gz;
+    return true;
+}
+
+int SubtitleData::below(std::uint64_t target, const Point* out[2]) const {
+    int n = 0;
+    auto take = [&](const Point& p) {
+        if (n < 2 && static_cast<std::int64_t>(target - p.cts) < kReach) out[n++] = &p;
+    };
+    if (tenths_.empty() || target == 0) return 0;
+    std::uint64_t k = std::min<std::uint64_t>((target - 1) / 100, tenths_.size() - 1);
+    for (;; --k) {
+        if (k * 100 + 100 + kReach <= target) break;  // every cue this low is too far
+        const Tenth& s = tenths_[k];
+        if (k * 100 < target) {  // the tenth holding `target` has nothing below it
+            if (s.high) take(s.highest);
+            if (s.high2) take(s.second);
+            if (s.exact) take(s.atStart);
+        }
+        if (n == 2 || k == 0) break;
     }
-    return false;
+    return n;
+}
+
+const SubtitleData::Point* SubtitleData::above(std::uint64_t target) const {
+    for (std::uint64_t k = target / 100; k < tenths_.size() && k * 100 < target + kReach; ++k) {
+        const Tenth& s = tenths_[k];
+        if (s.exact && s.atStart.cts > target && s.atStart.cts < target + kReach) return &s.atStart;
+        if (s.low && s.lowest.cts > target && s.lowest.cts < target + kReach) return &s.lowest;
+    }
+    return nullptr;
 }
 
 int SubtitleData::getGpsAt(unsigned t, float& lat, float& lng, unsigned& speed) const {
-    if (entries_.empty()) return GpsNone;
-    const std::int64_t target = static_cast<std::int64_t>(t) * 100;
-    const SubtitleEntry* a = nullptr;
-    const SubtitleEntry* b = nullptr;
-    std::int64_t da = 1000, db = 1000;
-    for (const SubtitleEntry& e : entries_) {
-        if (e.lat == SubtitleEntry::kNoPosition) continue;
-        if (e.cts == target) {
-            lat = e.lat;
-            lng = e.lng;
-            speed = e.speed;
-            return GpsExact;
-        }
-        const std::int64_t d = std::llabs(static_cast<std::int64_t>(e.cts) - target);
-        if (d > 1000) continue;
-        // The second-nearest is only replaced by a displaced nearest or by an
-        // entry closer than every one seen so far; entries 1000 ms away never count.
-        if (d < da) {
-            b = a;
-            a = &e;
-            da = d;
-        } else if (d < db) {
-            b = &e;
-        }
-        if (d < db) db = d;
+    const std::uint64_t target = static_cast<std::uint64_t>(t) * 100;
+    if (t < tenths_.size() && tenths_[t].exact) {
+        const Point& p = tenths_[t].atStart;
+        lat = p.lat;
+        lng = p.lng;
+        speed = p.speed;
+        return GpsExact;
     }
+    const Point* down[2] = {nullptr, nullptr};
+    below(target, down);
+    const Point* up = above(target);
+    // The nearer wins, the earlier on a tie; the one before it in time
+    // (nearer than 1000 ms) is the second point of the interpolation.
+    const Point* a = up;
+    const Point* b = down[0];
+    if (down[0] && (!up || target - down[0]->cts <= up->cts - target)) a = down[0], b = down[1];
     if (!a) return GpsNone;
-    if (!b || b->cts == a->cts) {
+    if (!b) {
         lat = a->lat;
         lng = a->lng;
         speed = a->speed;
         return GpsNearby;
     }
-    const float f = static_cast<float>(target - static_cast<std::int64_t>(a->cts)) /
+    const float f = static_cast<float>(static_cast<std::int64_t>(target) - static_cast<std::int64_t>(a->cts)) /
                     static_cast<float>(static_cast<std::int64_t>(b->cts) - static_cast<std::int64_t>(a->cts));
     lat = (b->lat - a->lat) * f + a->lat;
     lng = (b->lng - a->lng) * f + a->lng;

@@ -4,7 +4,7 @@
 // number of samples; foreign, truncated or hostile input gives 0 and never
 // reads outside the file.
 
-#include "core/util/mapped_file.h"
+#include "core/util/bounded_file.h"
 
 namespace tarvik {
 class OrvoClipData;
@@ -13,14 +13,14 @@ class OrvoClipData;
 namespace tarvik::readers {
 
 // Lines "t,lat,lng,speed,gx,gy,gz" after the "QZRVT7" marker near the end.
-int readTailText(const MappedFile& file, OrvoClipData& out);
+int readTailText(const BoundedFile& file, OrvoClipData& out);
 // "gsensor"/"gsensori"/"GPRMC" text records behind "02tx"/"03tx" tags found by a byte scan.
-int readTextRecords(const MappedFile& file, OrvoClipData& out);
+int readTextRecords(const BoundedFile& file, OrvoClipData& out);
 // Cues of an SRT side file.
-int readSrtCues(const MappedFile& file, OrvoClipData& out);
+int readSrtCues(const BoundedFile& file, OrvoClipData& out);
 
 enum class AviFamily { General, Krt };
 // Binary 'M' readings, NMEA text and 'T' marks in AVI text chunks.
-int readAviChunks(const MappedFile& file, AviFamily family, OrvoClipData& out);
+int readAviChunks(const BoundedFile& file, AviFamily family, OrvoClipData& out);
 
 }  // namespace tarvik::readers

@@ -5,7 +5,9 @@
 #include <climits>
 #include <cmath>
 
-#include "core/util/mapped_file.h"
+#include <vector>
+
+#include "core/util/bounded_file.h"
 
 namespace tarvik::text {
 
@@ -141,17 +143,21 @@ std::int64_t truncToInt64(double v) {
     return static_cast<std::int64_t>(v);
 }
 
-bool isValidUtf8(const MappedFile& file, std::size_t from) {
-    constexpr std::size_t kBlock = 4u << 20;
-    const unsigned char* d = file.data();
+bool isValidUtf8(const BoundedFile& file, std::size_t from) {
+    constexpr std::size_t kBlock = 1u << 20;
+    // Three bytes past the block: a block ends before a character that
+    // straddles it, never inside one (a longer run of continuation bytes is
+    // invalid wherever it is cut).
     const std::size_t n = file.size();
+    std::vector<unsigned char> buf(std::min(kBlock + 3, n > from ? n - from : 0));
     for (std::size_t b = from; b < n;) {
-        std::size_t e = std::min(n, b + kBlock);
-        while (e < n && (d[e] & 0xC0) == 0x80) ++e;  // extend to the next lead byte
-        file.scannedUpTo(b);
-        if (!isValidUtf8(d + b, e - b)) return false;
-        file.scannedUpTo(e);
-        b = e;
+        const std::size_t want = std::min(buf.size(), n - b);
+        const std::size_t got = file.readSome(b, buf.data(), want);
+        if (got < want) return false;
+        std::size_t e = std::min(kBlock, got);
+        while (e < got && (buf[e] & 0xC0) == 0x80) ++e;
+        if (!isValidUtf8(buf.data(), e)) return false;
+        b += e;
     }
     return true;
 }

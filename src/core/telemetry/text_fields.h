@@ -8,7 +8,7 @@
 #include <vector>
 
 namespace tarvik {
-class MappedFile;
+class BoundedFile;
 }
 
 namespace tarvik::text {
@@ -36,10 +36,9 @@ inline std::string_view field(const std::vector<std::string_view>& f, std::size_
 
 bool isValidUtf8(const unsigned char* p, std::size_t n);
 
-// Whether bytes [from, end) of a mapped file are valid UTF-8, checked a few
-// MiB at a time (never cutting a character in two) so that the pages already
-// checked can be let go while a large file is read.
-bool isValidUtf8(const MappedFile& file, std::size_t from);
+// Whether the file from `from` on is valid UTF-8, read a megabyte at a time
+// (never cutting a character in two); false when the file cannot be read.
+bool isValidUtf8(const BoundedFile& file, std::size_t from);
 
 // Float to integer the way a C cast on this platform behaves for the values
 // that matter, without undefined behaviour for the ones that do not: NaN and

@@ -89,7 +89,7 @@ class TagScanner {
 public:
     static constexpr std::size_t kWindow = 1024 * 1024;
 
-    explicit TagScanner(const MappedFile& file) : file_(file), buf_(kWindow) {}
+    explicit TagScanner(const BoundedFile& file) : file_(file), buf_(std::min(kWindow, file.size())) {}
 
     // The next tag at or after `from`; size() when there is none.
     std::size_t next(std::size_t from) {
@@ -137,7 +137,7 @@ public:
     }
 
 private:
-    const MappedFile& file_;
+    const BoundedFile& file_;
     std::vector<unsigned char> buf_;
     std::size_t start_ = 0, len_ = 0;
     unsigned char piece_[512];
@@ -161,7 +161,7 @@ Kind classify(std::string_view rec, std::vector<std::string_view>& f, GReading& 
 
 class TextRecordScan {
 public:
-    TextRecordScan(const MappedFile& file) : n_(file.size()), tags_(file), second_(raw_) {}
+    TextRecordScan(const BoundedFile& file) : n_(file.size()), tags_(file), second_(raw_) {}
 
     int run(OrvoClipData& out) {
         GpsFix held;
@@ -226,7 +226,7 @@ private:
 
 }  // namespace
 
-int readTextRecords(const MappedFile& file, OrvoClipData& out) {
+int readTextRecords(const BoundedFile& file, OrvoClipData& out) {
     out.setGpsDataCount(0);
     auto scan = std::make_unique<TextRecordScan>(file);
     return scan->run(out);

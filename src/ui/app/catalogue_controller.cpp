@@ -144,7 +144,7 @@ void CatalogueController::selectFolderButtonTouched() {
 void CatalogueController::removeFileButtonTouched() {
     const int row = selectedRow();
     if (row < 0 || row >= catalogue_.rowCount()) return;
-    if (catalogue_.removeFile(row)) reloadTable();
+    if (deleter_.deleteRow(v_.mainWindow, catalogue_, row) == ClipDeleter::Outcome::Trashed) refreshVideoFileList();
 }
 
 void CatalogueController::videoFileListDoubleClicked() {

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/library/clip_catalogue.h"
+#include "ui/app/clip_deleter.h"
 #include "ui/app/main_window_views.h"
 
 namespace tarvik {
@@ -35,6 +36,7 @@ public:
     int selectedRow() const;
     // Marks the clip that plays; a refreshed list selects it again.
     void setPlayingClip(const QByteArray& clip);
+    ClipDeleter& deleter() { return deleter_; }
 
     // The folder chooser, without the dialog: what choosing dir does.
     void chooseFolder(const std::string& dir);
@@ -56,6 +58,7 @@ private:
     const MainWindowViews& v_;
     ClipCatalogue catalogue_;
     ClipListModel* model_;
+    ClipDeleter deleter_;
     std::array<class ImageButton*, 5> filterButtons_;
 };
 

@@ -67,6 +67,7 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
     connect(catalogue_, &CatalogueController::playVideoWithIdx, this, &MainWindowController::playVideoWithIdx);
     // ---- playback: the players, the dashboard and the tool bar ----
     playback_ = new PlaybackController(v_, catalogue_->catalogue(), this);
+    catalogue_->deleter().setPlayingCheck([this](const std::string& p) { return playback_->currentVideoUrl() == p; });
     connect(this, &MainWindowController::playVideoWithIdx, playback_, &PlaybackController::playVideoWithIdx);
     connect(playback_, &PlaybackController::enableVideoControlsRequested, this,
             &MainWindowController::enableVideoControls);

@@ -57,8 +57,12 @@ protected:
     // A converter that runs the real ffmpeg and remembers every argument list.
     ClipConverter recordingConverter() {
         return ClipConverter(documents, [this](const ArgumentList& args) {
-            runs.push_back(args);
-            return Utils::DoTaskWithLaunchPath(Utils::GetFFMPEGPath(), args);
+            // Recorded under the names the outputs end up with.
+            ArgumentList named = args;
+            for (auto& a : named)
+                if (auto at = a.find(".partial."); at != std::string::npos) a.erase(at, 8);
+            runs.push_back(named);
+            return ProcessRunner::run(Utils::GetFFMPEGPath(), args);
         });
     }
 

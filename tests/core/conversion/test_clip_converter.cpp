@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "conversion_fixture.h"
 
 namespace tarvik::testing {
@@ -139,10 +141,10 @@ TEST_F(ConversionTest, Mp4PairWithSubtitleTracks) {
     EXPECT_EQ(fs::path(rOut).filename(), "20261121_083000_F_r.mov");
     const std::string fSrt = Utils::removeFileExtensionFromFilePath(fOut) + ".srt";
     const std::string rSrt = Utils::removeFileExtensionFromFilePath(rOut) + ".srt";
-    EXPECT_EQ(runs, (std::vector<L>{FfmpegCommandLines::remux(f, CodecTagType::Unknown, fOut),
-                                    FfmpegCommandLines::subtitle(f, fSrt),
-                                    FfmpegCommandLines::remux(r, CodecTagType::Unknown, rOut),
-                                    FfmpegCommandLines::subtitle(r, rSrt)}));
+    EXPECT_EQ(runs, (std::vector<L>{FfmpegCommandLines::subtitle(f, fSrt),
+                                    FfmpegCommandLines::remux(f, CodecTagType::Unknown, fOut),
+                                    FfmpegCommandLines::subtitle(r, rSrt),
+                                    FfmpegCommandLines::remux(r, CodecTagType::Unknown, rOut)}));
     for (const auto& out : *files) {
         EXPECT_NE(Utils::GetFFMPEGVideoInfo(out).find("avc1"), std::string::npos);
         EXPECT_TRUE(decodes(out));
@@ -164,7 +166,7 @@ TEST_F(ConversionTest, Mp4PairWithSubtitleTracks) {
     runs.clear();
     EXPECT_EQ(recordingConverter().checkAndConvertVideo(f.string()), files);
     EXPECT_EQ(runs.size(), 2u);
-    EXPECT_EQ(runs[0], FfmpegCommandLines::remux(r, CodecTagType::Unknown, rOut));
+    EXPECT_EQ(runs[1], FfmpegCommandLines::remux(r, CodecTagType::Unknown, rOut));
 
     // A changed source (other size) gets a folder of its own.
     const fs::path folder = recordingConverter().clipFolderFor(f.string());
@@ -186,7 +188,7 @@ TEST_F(ConversionTest, HevcMp4AndLonelyRearClip) {
     auto files = recordingConverter().checkAndConvertVideo(r.string());
     ASSERT_TRUE(files.has_value());
     ASSERT_EQ(files->size(), 1u);  // the front partner is missing
-    EXPECT_EQ(runs[0], FfmpegCommandLines::remux(r, CodecTagType::Hevc, (*files)[0]));
+    EXPECT_EQ(runs[1], FfmpegCommandLines::remux(r, CodecTagType::Hevc, (*files)[0]));
     EXPECT_NE(Utils::GetFFMPEGVideoInfo((*files)[0]).find("hvc1"), std::string::npos);
     EXPECT_TRUE(decodes((*files)[0]));
     // The clip has no subtitle track: no side file, and no complaint.
@@ -213,6 +215,37 @@ TEST_F(ConversionTest, UncreatableCacheGivesNoResult) {
     std::ofstream(documents / "TarvikViewer") << "a file in the way";
     EXPECT_FALSE(recordingConverter().checkAndConvertVideo(mp4.string()).has_value());
     EXPECT_TRUE(runs.empty());
+}
+
+TEST_F(ConversionTest, AKilledRemuxLeavesNothingAndTheNextOpenConvertsAfresh) {
+    cardgen::VideoSpec spec;
+    spec.seconds = 12;
+    fs::path clip = makeClip("20261121_100000_F.mp4", spec);
+    bool partialSeen = false;
+    // ffmpeg reads the clip at its own pace and is killed halfway through it.
+    ClipConverter slow(documents, [&](const ArgumentList& args) {
+        ArgumentList a = args;
+        if (std::find(a.begin(), a.end(), "-vcodec") == a.end())
+            return ProcessRunner::run(Utils::GetFFMPEGPath(), a);
+        a.insert(a.begin(), {"-readrate", "1"});
+        ProcessResult r = ProcessRunner::run(Utils::GetFFMPEGPath(), a, std::chrono::seconds(4));
+        partialSeen = fs::exists(a.back());
+        EXPECT_TRUE(r.timedOut) << r.output;
+        return r;
+    });
+    auto files = slow.checkAndConvertVideo(clip.string());
+    ASSERT_TRUE(files.has_value());
+    EXPECT_TRUE(files->empty());
+    EXPECT_TRUE(partialSeen);
+    for (const auto& e : fs::directory_iterator(slow.clipFolderFor(clip.string())))
+        EXPECT_EQ(e.path().filename().string().find(".mov"), std::string::npos) << e.path();
+
+    runs.clear();
+    files = recordingConverter().checkAndConvertVideo(clip.string());
+    ASSERT_TRUE(files.has_value());
+    ASSERT_EQ(files->size(), 1u);
+    EXPECT_EQ(runs.size(), 2u);  // side file and picture, both afresh
+    EXPECT_TRUE(decodes((*files)[0]));
 }
 
 }  // namespace tarvik::testing

@@ -42,7 +42,7 @@ TEST(Resampling, ThirtyReadingsInAnAviSecondGiveTenSamples) {
     for (int r = 0; r < 30; ++r) avi.gReading(r, 0, 0);  // gx = 128 - byte = 128 - r
     avi.nmea("$GPRMC,083000.000,A,4807.038,N,01131.000,W,10.0,,,,");
     OrvoClipData d;
-    MappedFile f(avi.bytes.data(), avi.bytes.size());
+    BoundedFile f(avi.bytes.data(), avi.bytes.size());
     ASSERT_EQ(readers::readAviChunks(f, readers::AviFamily::General, d), 10);
     d.setClipDataCount(10);
     const int expect[] = {0, 2, 5, 8, 11, 14, 17, 20, 23, 26};
@@ -61,7 +61,7 @@ TEST(Resampling, LeftoversAndSecondsWithoutPosition) {
     avi.nmea("$GPRMC,1,A,4807.038,N,01131.000,E,0,,,,");
     for (int r = 10; r < 13; ++r) avi.gReading(r, 0, 0);
     OrvoClipData d;
-    MappedFile f(avi.bytes.data(), avi.bytes.size());
+    BoundedFile f(avi.bytes.data(), avi.bytes.size());
     ASSERT_EQ(readers::readAviChunks(f, readers::AviFamily::General, d), 20);
     d.setClipDataCount(20);
     const int firstSecond[] = {0, 0, 0, 1, 1, 2, 2, 2, 3, 3};
@@ -82,7 +82,7 @@ TEST(Resampling, LeftoversAndSecondsWithoutPosition) {
     t.nmea("G$GPRMC,1,V,,,,,,,,,");
     t.gReading(3, 0, 0);  // flushed at the end with the (reset) held state
     OrvoClipData e;
-    MappedFile g(t.bytes.data(), t.bytes.size());
+    BoundedFile g(t.bytes.data(), t.bytes.size());
     ASSERT_EQ(readers::readAviChunks(g, readers::AviFamily::General, e), 40);
     EXPECT_EQ(e.gpsDataCount(), 10);
 
@@ -90,7 +90,7 @@ TEST(Resampling, LeftoversAndSecondsWithoutPosition) {
     Avi none;
     none.gReading(1, 2, 3);
     OrvoClipData z;
-    MappedFile h(none.bytes.data(), none.bytes.size());
+    BoundedFile h(none.bytes.data(), none.bytes.size());
     EXPECT_EQ(readers::readAviChunks(h, readers::AviFamily::General, z), 0);
 }
 
@@ -101,7 +101,7 @@ TEST(Resampling, StopsAtTheCapacity) {
         avi.nmea("$GPRMC,1,A,4807.038,N,01131.000,E,0,,,,");
     }
     OrvoClipData d;
-    MappedFile f(avi.bytes.data(), avi.bytes.size());
+    BoundedFile f(avi.bytes.data(), avi.bytes.size());
     EXPECT_EQ(readers::readAviChunks(f, readers::AviFamily::General, d), 650);
     d.setClipDataCount(650);
     EXPECT_EQ(d.getGx(649), 128 - 64);

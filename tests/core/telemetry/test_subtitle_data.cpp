@@ -1,6 +1,10 @@
 // The subtitle track's cue list and the dashboard's two look-ups.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdio>
+#include <random>
+
 #include "core/telemetry/subtitle_data.h"
 #include "test_bytes.h"
 
@@ -57,29 +61,37 @@ TEST(SubtitleTrack, LoadingKeepsOnlyClosedCues) {
     std::string lf = cue(1, "00:00:00,000", "gsensor,1,2,3;GPRMC,0,A,3733.67,N,12658.98,E,10,,") +
                      cue(2, "00:00:00,100", "dummy;gsensori,1,128,9,8,7") + "3\n00:00:00,200 --> x\ngsensor,5,5,5";
     SubtitleData d;
+    int x = 0, y = 0, z = 0;
+    float lat = 0, lng = 0;
+    unsigned speed = 0;
     d.loadFromText(lf);
-    ASSERT_EQ(d.entries().size(), 2u);  // the last cue has no blank line after it
-    EXPECT_EQ(d.entries()[0].gy(), 2);
-    EXPECT_NEAR(d.entries()[0].lat, 37.561167f, 1e-5);
-    EXPECT_EQ(d.entries()[1].cts, 100u);
-    EXPECT_EQ(d.entries()[1].gz(), 7);
+    ASSERT_EQ(d.cueCount(), 2u);  // the last cue has no blank line after it
+    EXPECT_TRUE(d.getSensorAt(0, x, y, z));
+    EXPECT_EQ(y, 2);
+    EXPECT_EQ(d.getGpsAt(0, lat, lng, speed), 0);
+    EXPECT_NEAR(lat, 37.561167f, 1e-5);
+    EXPECT_TRUE(d.getSensorAt(1, x, y, z));
+    EXPECT_EQ(z, 7);
+    EXPECT_FALSE(d.getSensorAt(2, x, y, z));
     EXPECT_EQ(d.clipDataCount(), 0);
 
     // CR LF: the empty piece between CR and LF closes each cue before its data.
     std::string crlf = cue(1, "00:00:00,000", "gsensor,1,2,3", "\r\n") + cue(2, "00:00:00,100", "gsensor,4,5,6", "\r\n");
     d.loadFromText(crlf);
-    ASSERT_EQ(d.entries().size(), 2u);
-    EXPECT_EQ(d.entries()[1].cts, 100u);
-    EXPECT_EQ(d.entries()[0].gx(), -512);
-    EXPECT_EQ(d.entries()[1].lat, 512.0f);
+    ASSERT_EQ(d.cueCount(), 2u);
+    EXPECT_TRUE(d.getSensorAt(1, x, y, z));
+    EXPECT_EQ(x, -512);
+    EXPECT_EQ(d.getGpsAt(1, lat, lng, speed), 2);
 
     d.loadFromText(lf + "\xff\xfe");
-    EXPECT_TRUE(d.entries().empty());
+    EXPECT_TRUE(d.empty());
     d.loadFromPath("/nonexistent/clip.srt");
-    EXPECT_TRUE(d.entries().empty());
+    EXPECT_TRUE(d.empty());
     tarvik::test::TempDir dir;
-    auto loaded = SubtitleData::fromPath(dir.write("a.srt", lf).string());
-    EXPECT_EQ(loaded->entries().size(), 2u);
+    auto loaded = SubtitleData::fromPath(dir.write("a.srt", crlf + lf).string());
+    EXPECT_EQ(loaded->cueCount(), 4u);
+    EXPECT_TRUE(loaded->getSensorAt(1, x, y, z));
+    EXPECT_EQ(x, -512);  // the first cue at a time wins
 }
 
 TEST(SubtitleTrack, SensorLookUpIsExact) {
@@ -127,4 +139,84 @@ TEST(SubtitleTrack, PositionLookUp) {
     // Midway, both are 500 ms away: the first stays alone, so no interpolation.
     EXPECT_EQ(d.getGpsAt(15, lat, lng, speed), 1);
     EXPECT_NEAR(lat, 37.5f, 1e-5);
+}
+
+namespace {
+// The dashboard's position look-up as a walk over every cue in file order:
+// what the kept-per-tenth look-up must answer for any track in time order.
+struct RefCue {
+    std::uint32_t cts;
+    float lat, lng;
+    std::uint32_t speed;
+};
+int referenceGps(const std::vector<RefCue>& cues, unsigned t, float& lat, float& lng, unsigned& speed) {
+    const std::int64_t target = static_cast<std::int64_t>(t) * 100;
+    const RefCue *a = nullptr, *b = nullptr;
+    std::int64_t da = 1000;
+    for (const RefCue& e : cues) {
+        if (e.lat == SubtitleEntry::kNoPosition) continue;
+        if (e.cts == target) {
+            lat = e.lat, lng = e.lng, speed = e.speed;
+            return 0;
+        }
+        const std::int64_t d = std::llabs(static_cast<std::int64_t>(e.cts) - target);
+        if (d < da) b = a, a = &e, da = d;
+    }
+    if (!a) return 2;
+    if (!b) {
+        lat = a->lat, lng = a->lng, speed = a->speed;
+        return 1;
+    }
+    const float f = static_cast<float>(target - a->cts) / static_cast<float>(static_cast<std::int64_t>(b->cts) - a->cts);
+    lat = (b->lat - a->lat) * f + a->lat;
+    lng = (b->lng - a->lng) * f + a->lng;
+    const float v = (static_cast<float>(b->speed) - static_cast<float>(a->speed)) * f + static_cast<float>(a->speed);
+    speed = v > 0.0f ? static_cast<unsigned>(std::trunc(v)) : 0u;
+    return 1;
+}
+}  // namespace
+
+TEST(SubtitleTrack, KeptCuesAnswerAsAWalkOverAllCues) {
+    // Random tracks in time order: sparse and dense, repeated times, cues
+    // without a position, gaps longer than the 1000 ms reach.
+    std::mt19937 rng(7);
+    for (int round = 0; round < 40; ++round) {
+        std::vector<RefCue> cues;
+        std::string text;
+        std::uint32_t ms = rng() % 300;
+        const std::uint32_t step = 1 + rng() % (round % 2 ? 40 : 700);
+        for (int i = 0; i < 400; ++i) {
+            if (rng() % 5) ms += rng() % step;  // else the same time again
+            char start[32];
+            std::snprintf(start, sizeof start, "00:%02u:%02u,%03u", ms / 60000 % 100, ms / 1000 % 60, ms % 1000);
+            const bool positioned = rng() % 3 != 0;
+            const unsigned lat = 3700 + rng() % 90, lng = 12600 + rng() % 90, knots = rng() % 50;
+            const std::string body = positioned ? "GPRMC,0,A," + std::to_string(lat) + ".00,N," + std::to_string(lng) +
+                                                      ".00,E," + std::to_string(knots)
+                                                : "gsensor,1,2,3";
+            text += cue(i, start, body);
+            auto e = SubtitleEntry::entryWithTime(std::string(start) + " --> 1");
+            if (positioned) {
+                std::vector<std::string_view> f = {"GPRMC", "0", "A", "", "N", "", "E", ""};
+                const std::string la = std::to_string(lat) + ".00", ln = std::to_string(lng) + ".00",
+                                  kn = std::to_string(knots);
+                f[3] = la, f[5] = ln, f[7] = kn;
+                e->parseGprmc(f);
+            }
+            cues.push_back({e->cts, e->lat, e->lng, e->speed});
+        }
+        SubtitleData d;
+        d.loadFromText(text);
+        ASSERT_EQ(d.cueCount(), 400u);
+        for (unsigned t = 0; t <= ms / 100 + 12; ++t) {
+            float la = 0, ln = 0, ra = 0, rn = 0;
+            unsigned sp = 0, rs = 0;
+            const int got = d.getGpsAt(t, la, ln, sp), want = referenceGps(cues, t, ra, rn, rs);
+            ASSERT_EQ(got, want) << "round " << round << " t " << t;
+            if (want == 2) continue;
+            ASSERT_EQ(la, ra) << "round " << round << " t " << t;
+            ASSERT_EQ(ln, rn);
+            ASSERT_EQ(sp, rs);
+        }
+    }
 }

@@ -151,16 +151,6 @@ private slots:
         QCOMPARE(names(), (QStringList{"B_F.mp4", "B_R.mp4"}));
         press(QKeySequence(Qt::CTRL | Qt::Key_5));
         QCOMPARE(names(), (QStringList{"C.mov"}));
-
-        // Removing the only clip of the list deletes the file and disables remove and save.
-        table->selectRow(0);
-        QVERIFY(v.fileListRemoveButton_OEM->isEnabled());
-        cat.removeFileButtonTouched();
-        QVERIFY(!fs::exists(card_ / "option_rec/C.mov"));
-        QCOMPARE(table->model()->rowCount(), 0);
-        QVERIFY(!v.fileListRemoveButton_OEM->isEnabled());
-        QVERIFY(!v.saveFileButton->isEnabled());
-        touch(card_ / "option_rec/C.mov");
     }
 
     void doubleClickAsksToPlayTheSelectedRow() {

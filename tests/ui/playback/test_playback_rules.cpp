@@ -1,6 +1,8 @@
 // The playback helpers on their own, with real widgets and telemetry: clip
 // stepping, dashboard throttles, zoom, volume, seek slider, animation, saving.
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -328,7 +330,7 @@ private slots:
         QCOMPARE(ClipSaver::baseNameOf(""), QString());
     }
 
-    void pngWritesAreWholeOrNothingAndCopiesNeverReplace() {
+    void pngWritesAndCopiesAreWholeOrNothing() {
         QTemporaryDir dir;
         QImage image(320, 180, QImage::Format_RGB32);
         image.fill(Qt::darkCyan);
@@ -346,10 +348,17 @@ private slots:
             QCOMPARE(QDir(locked).entryList(QDir::NoDotAndDotDot | QDir::AllEntries).size(), 0);
         }
         ::chmod(QFile::encodeName(locked).constData(), 0755);
-        // Copies never replace a file.
-        QVERIFY(ClipSaver::copyClip(QFile::encodeName(png).toStdString(), dir.filePath("copy.png")));
-        QVERIFY(!ClipSaver::copyClip(QFile::encodeName(png).toStdString(), dir.filePath("copy.png")));
+        // A confirmed replace replaces; a failed copy leaves the old file whole.
+        const QString copy = dir.filePath("copy.png"), other = dir.filePath("other.bin");
+        QVERIFY(ClipSaver::copyClip(QFile::encodeName(png).toStdString(), copy));
+        { QFile f(other); QVERIFY(f.open(QIODevice::WriteOnly)); f.write(QByteArray(3 << 20, 'x')); }
+        QVERIFY(ClipSaver::copyClip(QFile::encodeName(other).toStdString(), copy));
+        QCOMPARE(QFileInfo(copy).size(), qint64(3 << 20));
+        QVERIFY(!ClipSaver::copyClip("/nonexistent/clip.mp4", copy));
+        QCOMPARE(QFileInfo(copy).size(), qint64(3 << 20));
         QVERIFY(!ClipSaver::copyClip("/nonexistent/clip.mp4", dir.filePath("nothing.mp4")));
+        QVERIFY(!QFile::exists(dir.filePath("nothing.mp4")));
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files).size(), 3);  // no temporary left behind
     }
 };
 

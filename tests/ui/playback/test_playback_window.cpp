@@ -186,7 +186,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(small()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
         QVERIFY(alerts_.isEmpty());
-        QVERIFY(playback().subtitleData() && !playback().subtitleData()->entries().empty());
+        QVERIFY(playback().subtitleData() && !playback().subtitleData()->empty());
         QVERIFY(v.bigMovieCoverImageView->isHidden() && v.smallMovieCoverImageView->isHidden());
         QVERIFY(v.playPauseButton->isEnabled() && v.switchVideoButton->isEnabled());
 

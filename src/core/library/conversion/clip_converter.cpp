@@ -43,9 +43,30 @@ std::string withSrtExtension(const std::string& path) {
 ClipConverter::ClipConverter(fs::path documentsDirectory, FfmpegTask task)
     : documentsDirectory_(std::move(documentsDirectory)), task_(std::move(task)) {}
 
-std::string ClipConverter::run(const ArgumentList& args) const {
+ProcessResult ClipConverter::run(const ArgumentList& args) const {
     if (task_) return task_(args);
-    return Utils::DoTaskWithLaunchPath(Utils::GetFFMPEGPath(), args);
+    return ProcessRunner::run(Utils::GetFFMPEGPath(), args);
+}
+
+std::string ClipConverter::partialPathOf(const std::string& output) {
+    fs::path p(output);
+    const std::string ext = p.extension().string();
+    return p.replace_extension(".partial" + ext).string();
+}
+
+bool ClipConverter::produce(ArgumentList args) const {
+    if (args.empty()) return false;
+    const std::string output = args.back();
+    const std::string partial = partialPathOf(output);
+    args.back() = partial;
+    const ProcessResult r = run(args);
+    std::error_code ec;
+    if (r.exitCode == 0 && fs::exists(partial, ec)) {
+        fs::rename(partial, output, ec);
+        if (!ec) return true;
+    }
+    fs::remove(partial, ec);
+    return false;
 }
 
 std::string ClipConverter::partnerPathOf(const std::string& clipPath) {
@@ -68,8 +89,8 @@ void ClipConverter::convertTwoStreamAvi(const std::string& src, const std::strin
                                         const std::string& r) const {
     const CodecTagType tag = Utils::GetAviType(src);
     const bool audio = Utils::GetAudioStreamCountFromVideoInfo(info) > 0;
-    run(FfmpegCommandLines::twoStreamPicture(src, 0, audio, tag, f));
-    run(FfmpegCommandLines::twoStreamPicture(src, 1, audio, tag, r));
+    produce(FfmpegCommandLines::twoStreamPicture(src, 0, audio, tag, f));
+    produce(FfmpegCommandLines::twoStreamPicture(src, 1, audio, tag, r));
 }
 
 std::optional<std::vector<std::string>> ClipConverter::checkAndConvertVideo(const std::string& clipPath) const {
@@ -87,7 +108,7 @@ std::optional<std::vector<std::string>> ClipConverter::checkAndConvertVideo(cons
 
     bool singleStream = true;
     if (ext == "avi") {
-        const std::string info = run({"-i", clipPath});
+        const std::string info = run({"-i", clipPath}).output;
         const int videoStreams = Utils::GetVideoStreamCountFromVideoInfo(info);
         if (videoStreams == 0) return std::vector<std::string>{};
         if (videoStreams >= 2) {
@@ -99,8 +120,9 @@ std::optional<std::vector<std::string>> ClipConverter::checkAndConvertVideo(cons
     if (singleStream) {
         const CodecTagType tag = Utils::GetAviType(clipPath);
         if (!exists(front)) {
-            run(FfmpegCommandLines::remux(clipPath, tag, front));
-            if (ext == "mp4") run(FfmpegCommandLines::subtitle(clipPath, withSrtExtension(front)));
+            // The side file first: a finished picture file stands for a finished conversion.
+            if (ext == "mp4") produce(FfmpegCommandLines::subtitle(clipPath, withSrtExtension(front)));
+            produce(FfmpegCommandLines::remux(clipPath, tag, front));
         }
         if (ext == "avi") {
             rear.clear();
@@ -109,8 +131,8 @@ std::optional<std::vector<std::string>> ClipConverter::checkAndConvertVideo(cons
             // come from the same camera.
             const std::string partner = partnerPathOf(clipPath);
             if (exists(partner)) {
-                run(FfmpegCommandLines::remux(partner, tag, rear));
-                run(FfmpegCommandLines::subtitle(partner, withSrtExtension(rear)));
+                produce(FfmpegCommandLines::subtitle(partner, withSrtExtension(rear)));
+                produce(FfmpegCommandLines::remux(partner, tag, rear));
             } else {
                 rear.clear();
             }

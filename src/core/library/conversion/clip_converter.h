@@ -10,14 +10,15 @@
 #include <vector>
 
 #include "core/library/conversion/ffmpeg_command_lines.h"
+#include "core/util/process_runner.h"
 
 namespace tarvik {
 
 class ClipConverter {
 public:
-    // Runs ffmpeg with one argument list and returns what it printed. The
-    // default runs the real ffmpeg; tests wrap it to see which lines ran.
-    using FfmpegTask = std::function<std::string(const ArgumentList&)>;
+    // Runs ffmpeg with one argument list. The default runs the real ffmpeg;
+    // tests wrap it to see which lines ran or to stop ffmpeg halfway.
+    using FfmpegTask = std::function<ProcessResult(const ArgumentList&)>;
 
     static constexpr const char* kCacheFolderName = "temp_video";
 
@@ -36,8 +37,16 @@ public:
     // "R."->"F.", "F_BC."->"R_BC.", "R_BC."->"F_BC."); empty when none does.
     static std::string partnerPathOf(const std::string& clipPath);
 
+    // Where ffmpeg writes an output until it has finished it: beside it,
+    // "name.partial.ext", so that ffmpeg still picks the format by extension.
+    static std::string partialPathOf(const std::string& output);
+
 private:
-    std::string run(const ArgumentList& args) const;
+    ProcessResult run(const ArgumentList& args) const;
+    // Runs a line whose last argument is its output: written under the
+    // partial name, renamed only when ffmpeg exits with 0, removed otherwise,
+    // so a killed or failed run never leaves a file that looks finished.
+    bool produce(ArgumentList args) const;
     void convertTwoStreamAvi(const std::string& src, const std::string& info, const std::string& f,
                              const std::string& r) const;
 

@@ -68,9 +68,31 @@ bool ClipSaver::printImage(const QImage& image, QPrinter& printer) {
 }
 
 bool ClipSaver::copyClip(const std::string& source, const QString& destination) {
-    // QFile::copy writes into a temporary file beside the destination and
-    // renames it, so an interrupted copy never leaves half a clip.
-    return !destination.isEmpty() && QFile::copy(fromBytes(source), destination);
+    // Written into a temporary file beside the destination and renamed over
+    // it only when whole: a replaced clip is the old one or the new one,
+    // never half of either, even when the card is pulled mid-copy.
+    if (destination.isEmpty()) return false;
+    QFile in(fromBytes(source));
+    if (!in.open(QIODevice::ReadOnly)) return false;
+    QSaveFile out(destination);
+    if (!out.open(QIODevice::WriteOnly)) return false;
+    QByteArray buf(1 << 20, Qt::Uninitialized);
+    qint64 total = 0;
+    for (;;) {
+        const qint64 n = in.read(buf.data(), buf.size());
+        if (n < 0 || (n > 0 && out.write(buf.constData(), n) != n)) {
+            out.cancelWriting();
+            return false;
+        }
+        if (n == 0) break;
+        total += n;
+    }
+    // A file that shrank under the copy is not a finished copy.
+    if (total != in.size()) {
+        out.cancelWriting();
+        return false;
+    }
+    return out.commit();
 }
 
 void ClipSaver::saveFileButtonTouched() {

@@ -50,7 +50,8 @@ public:
     static bool writePng(const QImage& image, const QString& path);
     // One page in the printer's orientation, the picture scaled to fit and centred.
     static bool printImage(const QImage& image, QPrinter& printer);
-    // Copies byte for byte; refuses to replace an existing file.
+    // Copies byte for byte, replacing an existing file (the save panel has
+    // asked) atomically.
     static bool copyClip(const std::string& source, const QString& destination);
 
 private:

@@ -1,0 +1,205 @@
+// Clips that shrink or vanish while they are read (a card pulled out, another
+// program truncating the file): every reader ends with a neutral value, never
+// a signal. Also the bounded text window the text readers walk through.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <random>
+#include <set>
+#include <thread>
+#include <unistd.h>
+
+#include "core/telemetry/orvo_clip_data.h"
+#include "core/telemetry/subtitle_data.h"
+#include "core/telemetry/text_stream.h"
+#include "core/util/bounded_file.h"
+#include "test_bytes.h"
+
+using namespace tarvik;
+using tarvik::test::Avi;
+using tarvik::test::TempDir;
+
+namespace {
+
+const std::string kFiller(48 << 10, '\x5a');
+
+std::string aviClip(bool krt) {
+    Avi avi;
+    for (int s = 0; s < 80; ++s) {
+        for (int r = 0; r < 10; ++r) {
+            std::string m = "M";
+            m += static_cast<char>(120 + r), m += static_cast<char>(128), m += static_cast<char>(130);
+            m += krt ? std::string("\x01\x01\x01\x00", 4) : std::string(4, '\0');
+            avi.chunk("02tx", m).chunk("00dc", kFiller.substr(0, 4000));
+        }
+        avi.nmea("$GPRMC,083000,A,3733.67,N,12658.98,E,10.0,,");
+    }
+    return avi.bytes;
+}
+
+std::string textRecordClip() {
+    Avi avi;
+    for (int s = 0; s < 80; ++s) {
+        for (int r = 0; r < 10; ++r) avi.chunk("02tx", "gsensor,1," + std::to_string(r) + ",3" + '\0').chunk("00dc", kFiller);
+        avi.chunk("03tx", std::string("GPRMC,083000,A,3733.6700,N,12658.9800,E,10.0,90,211126") + '\0');
+    }
+    return avi.bytes;
+}
+
+std::string tailClip() {
+    std::string c = std::string(4 << 20, '\x01') + "QZRVT7";
+    for (int i = 0; i < 600; ++i) c += std::to_string(i) + ",37.5,126.25,42,1,-2,130\n";
+    return c;
+}
+
+std::string srtTrack(int seconds) {
+    std::string t;
+    char start[64];
+    for (int i = 0; i < seconds * 10; ++i) {
+        std::snprintf(start, sizeof start, "%d\n00:%02d:%02d,%03d --> 00:59:59,000\n", i + 1, i / 600, i / 10 % 60,
+                      i % 10 * 100);
+        t += start;
+        t += "gsensori,1,128," + std::to_string(i % 100) + ",0,128";
+        if (i % 10 == 9) t += ";GPRMC,083000,A,4807.038,N,01131.000,E,5.4,,";
+        t += "\n\n";
+    }
+    return t;
+}
+
+struct Case {
+    const char* name;
+    std::string bytes;
+    std::function<int(const std::string&)> read;
+};
+
+std::vector<Case> cases() {
+    auto clip = [](int (OrvoClipData::*fn)(const std::string&)) {
+        return [fn](const std::string& p) {
+            OrvoClipData d;
+            const int n = (d.*fn)(p);
+            EXPECT_LE(d.gpsDataCount(), n);
+            return n;
+        };
+    };
+    auto avi = [](bool krt) {
+        return [krt](const std::string& p) {
+            OrvoClipData d;
+            return krt ? d.getAllDataFromFile_KRT(p.c_str()) : d.getAllDataFromFile(p.c_str());
+        };
+    };
+    return {
+        {"avi", aviClip(false), avi(false)},
+        {"krt", aviClip(true), avi(true)},
+        {"records", textRecordClip(), clip(&OrvoClipData::getM420AllDataFromFile)},
+        {"tail", tailClip(), clip(&OrvoClipData::getAllDataFromFileTail)},
+        {"srt", srtTrack(70), clip(&OrvoClipData::getM420AllDataFromSrtFile)},
+        {"track", srtTrack(300), [](const std::string& p) {
+             return static_cast<int>(SubtitleData::fromPath(p)->cueCount());
+         }},
+    };
+}
+
+}  // namespace
+
+TEST(CardPulled, ReadersEndNeutrallyWhileTheClipIsCutAndRemoved) {
+    TempDir dir;
+    int cutSeen = 0;
+    for (const Case& c : cases()) {
+        const std::string path = (dir.path / c.name).string(), half = path + ".half", fresh = path + ".new";
+        dir.write(std::string(c.name) + ".half", c.bytes.substr(0, c.bytes.size() / 2));
+        const int full = c.read(dir.write(c.name, c.bytes).string());
+        ASSERT_GT(full, 0) << c.name;
+        // A clip is whole, cut in half, empty or gone: anything else is a result made of a vanished read.
+        const std::set<int> allowed = {0, full, c.read(half)};
+
+        std::atomic<bool> stop{false};
+        std::thread cutter([&] {
+            std::mt19937 rng(1);
+            while (!stop) {
+                std::ofstream(fresh, std::ios::binary) << c.bytes;
+                std::rename(fresh.c_str(), path.c_str());
+                std::this_thread::sleep_for(std::chrono::microseconds(rng() % 3000));
+                switch (rng() % 3) {
+                case 0: ASSERT_EQ(truncate(path.c_str(), static_cast<off_t>(c.bytes.size() / 2)), 0); [[fallthrough]];
+                case 1: ASSERT_EQ(truncate(path.c_str(), 0), 0); break;
+                default: ::unlink(path.c_str());
+                }
+                std::this_thread::sleep_for(std::chrono::microseconds(rng() % 500));
+            }
+        });
+        std::set<int> seen;
+        const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(700);
+        while (std::chrono::steady_clock::now() < until) {
+            const int n = c.read(path);
+            EXPECT_TRUE(allowed.count(n)) << c.name << " gave " << n;
+            seen.insert(n);
+        }
+        stop = true;
+        cutter.join();
+        cutSeen += static_cast<int>(seen.count(0));
+    }
+    EXPECT_GT(cutSeen, 0) << "no reader ever saw the clip cut";
+}
+
+TEST(CardPulled, AFailedReadSticks) {
+    TempDir dir;
+    const std::string path = dir.write("a.avi", aviClip(false)).string();
+    BoundedFile f;
+    ASSERT_TRUE(f.open(path));
+    char buf[16];
+    EXPECT_TRUE(f.readAt(100, buf, sizeof buf));
+    EXPECT_FALSE(f.readAt(f.size() - 4, buf, sizeof buf));  // past the end: no failure
+    EXPECT_FALSE(f.failed());
+    ASSERT_EQ(truncate(path.c_str(), 50), 0);
+    EXPECT_FALSE(f.readAt(100, buf, sizeof buf));
+    EXPECT_TRUE(f.failed());
+    EXPECT_FALSE(f.open(dir.path.string()));  // a folder
+}
+
+TEST(CardPulled, TextWindowAnswersAsTheWholeText) {
+    std::mt19937 rng(3);
+    std::string t;
+    for (int i = 0; i < 3000; ++i) t += "ab\n\r -->"[rng() % 8];
+    const BoundedFile f(t.data(), t.size());
+    const std::string_view w(t);
+    for (std::size_t cap : {16u, 37u, 4096u}) {
+        text::TextStream s(f, 0, t.size(), cap);
+        for (std::size_t pos = 0; pos <= t.size(); pos += 1 + rng() % 40) {
+            for (std::string_view stop : {"\n", "\n\n", " --> ", "-->b"}) {
+                const std::size_t want = std::min(w.find(stop, pos), t.size());
+                ASSERT_EQ(s.find(stop, pos), want) << cap << " " << pos;
+                ASSERT_EQ(s.view(pos, want), w.substr(pos, std::min(want - pos, cap)));
+            }
+            ASSERT_EQ(s.findAny("\r\n", pos), std::min(w.find_first_of("\r\n", pos), t.size()));
+            ASSERT_EQ(s.at(pos), pos < t.size() ? t[pos] : -1);
+        }
+        // A shorter stretch ends where it is told to, even inside the window.
+        s.reset(10, 40);
+        EXPECT_EQ(s.find("\n", 10), std::min<std::size_t>(w.find('\n', 10), 40));
+        EXPECT_EQ(s.at(40), -1);
+    }
+}
+
+TEST(CardPulled, ATrackReadFromDiskMatchesTheSameTextInMemory) {
+    // 3 MiB: cues straddle the windows the file is read through.
+    const std::string text = srtTrack(3000) + "x";
+    TempDir dir;
+    const auto disk = SubtitleData::fromPath(dir.write("t.srt", text).string());
+    SubtitleData mem;
+    mem.loadFromText(text);
+    ASSERT_EQ(disk->cueCount(), 30000u);
+    ASSERT_EQ(mem.cueCount(), 30000u);
+    for (unsigned t = 0; t < 30010; t += 7) {
+        int x = 1, y = 1, z = 1, a = 1, b = 1, c = 1;
+        float la = 0, ln = 0, lb = 0, lc = 0;
+        unsigned sa = 0, sb = 0;
+        ASSERT_EQ(disk->getSensorAt(t, x, y, z), mem.getSensorAt(t, a, b, c));
+        ASSERT_EQ(x, a);
+        ASSERT_EQ(disk->getGpsAt(t, la, ln, sa), mem.getGpsAt(t, lb, lc, sb));
+        ASSERT_EQ(la, lb);
+        ASSERT_EQ(sa, sb);
+    }
+}
