@@ -169,7 +169,7 @@ private:
             ++p_;
             JsonValue v;
             if (!value(v, depth + 1)) return false;
-            out.members.emplace_back(std::move(key), std::move(v));
+            out.members.push_back({std::move(key), std::move(v)});
             skipSpace();
             if (p_ < s_.size() && s_[p_] == ',') { ++p_; continue; }
             if (p_ < s_.size() && s_[p_] == '}') return ++p_, true;

@@ -13,15 +13,22 @@
 
 namespace tarvik {
 
+struct JsonMember;
+
 struct JsonValue {
     enum class Kind { Null, Bool, Number, String, Array, Object } kind = Kind::Null;
     bool boolean = false;
     std::int64_t number = 0;
     std::string text;
     std::vector<JsonValue> items;
-    std::vector<std::pair<std::string, JsonValue>> members;  // in document order
+    std::vector<JsonMember> members;  // in document order
 
     const JsonValue* member(const std::string& key) const;
+};
+
+struct JsonMember {
+    std::string key;
+    JsonValue value;
 };
 
 inline constexpr int kMaxJsonDepth = 8;
