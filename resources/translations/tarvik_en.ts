@@ -485,9 +485,6 @@ Select a model name to apply its default settings.</translation>
         <source>휴지통으로 옮기지 못했습니다.</source>
         <translation>Could not move the clip to the trash.</translation>
     </message>
-</context>
-<context>
-    <name>Localizable_M420</name>
     <message>
         <source>공통</source>
         <translation>Common</translation>

@@ -485,5 +485,225 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>휴지통으로 옮기지 못했습니다.</source>
         <translation>Impossible de mettre la vidéo à la corbeille.</translation>
     </message>
+    <message>
+        <source>공통</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>상시녹화</source>
+        <translation>Enregistrement continu</translation>
+    </message>
+    <message>
+        <source>주차녹화</source>
+        <translation>Enregistrement en stationnement</translation>
+    </message>
+    <message>
+        <source>기타</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>전방 밝기</source>
+        <translation>Luminosité avant</translation>
+    </message>
+    <message>
+        <source>음성 녹음</source>
+        <translation>Enregistrement audio</translation>
+    </message>
+    <message>
+        <source>음성 안내</source>
+        <translation>Guidage vocal</translation>
+    </message>
+    <message>
+        <source>음성 안내 볼륨</source>
+        <translation>Volume du guidage vocal</translation>
+    </message>
+    <message>
+        <source>표준 시간대</source>
+        <translation>Fuseau horaire</translation>
+    </message>
+    <message>
+        <source>서머타임</source>
+        <translation>Heure d'été</translation>
+    </message>
+    <message>
+        <source>운전 가이드</source>
+        <translation>Aide à la conduite</translation>
+    </message>
+    <message>
+        <source>LCD 밝기</source>
+        <translation>Luminosité de l'écran</translation>
+    </message>
+    <message>
+        <source>날짜 / 시간 설정</source>
+        <translation>Régler la date et l'heure</translation>
+    </message>
+    <message>
+        <source>전방 해상도</source>
+        <translation>Résolution avant</translation>
+    </message>
+    <message>
+        <source>프레임</source>
+        <translation>Images par seconde</translation>
+    </message>
+    <message>
+        <source>전방 화질</source>
+        <translation>Qualité avant</translation>
+    </message>
+    <message>
+        <source>후방 해상도</source>
+        <translation>Résolution arrière</translation>
+    </message>
+    <message>
+        <source>후방 화질</source>
+        <translation>Qualité arrière</translation>
+    </message>
+    <message>
+        <source>충격 감도</source>
+        <translation>Sensibilité aux chocs</translation>
+    </message>
+    <message>
+        <source>차선이탈 경보</source>
+        <translation>Alerte de sortie de voie</translation>
+    </message>
+    <message>
+        <source>차선이탈 경보 속도</source>
+        <translation>Vitesse d'alerte de sortie de voie</translation>
+    </message>
+    <message>
+        <source>전방추돌 경보</source>
+        <translation>Alerte de collision avant</translation>
+    </message>
+    <message>
+        <source>앞차 출발 알림</source>
+        <translation>Départ du véhicule devant</translation>
+    </message>
+    <message>
+        <source>주차모션</source>
+        <translation>Mouvement en stationnement</translation>
+    </message>
+    <message>
+        <source>타임랩스</source>
+        <translation>Accéléré</translation>
+    </message>
+    <message>
+        <source>사용</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>사용 안 함</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>모션 감지</source>
+        <translation>Détection de mouvement</translation>
+    </message>
+    <message>
+        <source>모션 감도</source>
+        <translation>Sensibilité au mouvement</translation>
+    </message>
+    <message>
+        <source>주차 녹화 시간</source>
+        <translation>Durée d'enregistrement en stationnement</translation>
+    </message>
+    <message>
+        <source>배터리 차단 전압 12V</source>
+        <translation>Tension de coupure batterie 12V</translation>
+    </message>
+    <message>
+        <source>배터리 차단 전압 24V</source>
+        <translation>Tension de coupure batterie 24V</translation>
+    </message>
+    <message>
+        <source>상시 충격 덮어쓰기</source>
+        <translation>Écraser les chocs en continu</translation>
+    </message>
+    <message>
+        <source>주차 모션 덮어쓰기</source>
+        <translation>Écraser les mouvements en stationnement</translation>
+    </message>
+    <message>
+        <source>주차 충격 덮어쓰기</source>
+        <translation>Écraser les chocs en stationnement</translation>
+    </message>
+    <message>
+        <source>수동 녹화 덮어쓰기</source>
+        <translation>Écraser les enregistrements manuels</translation>
+    </message>
+    <message>
+        <source>보안 LED</source>
+        <translation>LED de sécurité</translation>
+    </message>
+    <message>
+        <source>모드 1</source>
+        <translation>Mode 1</translation>
+    </message>
+    <message>
+        <source>모드 2</source>
+        <translation>Mode 2</translation>
+    </message>
+    <message>
+        <source>모드 3</source>
+        <translation>Mode 3</translation>
+    </message>
+    <message>
+        <source>메모리 분할</source>
+        <translation>Partition de la mémoire</translation>
+    </message>
+    <message>
+        <source>기본</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>수동 우선</source>
+        <translation>Manuel en priorité</translation>
+    </message>
+    <message>
+        <source>주차 우선</source>
+        <translation>Stationnement en priorité</translation>
+    </message>
+    <message>
+        <source>상시</source>
+        <translation>Continu</translation>
+    </message>
+    <message>
+        <source>상시 충격</source>
+        <translation>Choc en continu</translation>
+    </message>
+    <message>
+        <source>주차 모션</source>
+        <translation>Mouvement en stationnement</translation>
+    </message>
+    <message>
+        <source>주차 충격</source>
+        <translation>Choc en stationnement</translation>
+    </message>
+    <message>
+        <source>수동</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>화면 터치 초기화</source>
+        <translation>Réinitialiser l'étalonnage tactile</translation>
+    </message>
+    <message>
+        <source>켜짐</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>꺼짐</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>낮음</source>
+        <translation>Faible</translation>
+    </message>
+    <message>
+        <source>보통</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>높음</source>
+        <translation>Élevée</translation>
+    </message>
 </context>
 </TS>

@@ -485,9 +485,6 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>휴지통으로 옮기지 못했습니다.</source>
         <translation>映像をゴミ箱に移動できませんでした。</translation>
     </message>
-</context>
-<context>
-    <name>Localizable_M420</name>
     <message>
         <source>공통</source>
         <translation>共通</translation>

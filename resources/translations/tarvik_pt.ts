@@ -485,5 +485,225 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>휴지통으로 옮기지 못했습니다.</source>
         <translation>Não foi possível mover o vídeo para a lixeira.</translation>
     </message>
+    <message>
+        <source>공통</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>상시녹화</source>
+        <translation>Gravação contínua</translation>
+    </message>
+    <message>
+        <source>주차녹화</source>
+        <translation>Gravação em estacionamento</translation>
+    </message>
+    <message>
+        <source>기타</source>
+        <translation>Outros</translation>
+    </message>
+    <message>
+        <source>전방 밝기</source>
+        <translation>Brilho dianteiro</translation>
+    </message>
+    <message>
+        <source>음성 녹음</source>
+        <translation>Gravação de áudio</translation>
+    </message>
+    <message>
+        <source>음성 안내</source>
+        <translation>Guia de voz</translation>
+    </message>
+    <message>
+        <source>음성 안내 볼륨</source>
+        <translation>Volume do guia de voz</translation>
+    </message>
+    <message>
+        <source>표준 시간대</source>
+        <translation>Fuso horário</translation>
+    </message>
+    <message>
+        <source>서머타임</source>
+        <translation>Horário de verão</translation>
+    </message>
+    <message>
+        <source>운전 가이드</source>
+        <translation>Guia de condução</translation>
+    </message>
+    <message>
+        <source>LCD 밝기</source>
+        <translation>Brilho do ecrã</translation>
+    </message>
+    <message>
+        <source>날짜 / 시간 설정</source>
+        <translation>Acertar data e hora</translation>
+    </message>
+    <message>
+        <source>전방 해상도</source>
+        <translation>Resolução dianteira</translation>
+    </message>
+    <message>
+        <source>프레임</source>
+        <translation>Fotogramas por segundo</translation>
+    </message>
+    <message>
+        <source>전방 화질</source>
+        <translation>Qualidade dianteira</translation>
+    </message>
+    <message>
+        <source>후방 해상도</source>
+        <translation>Resolução traseira</translation>
+    </message>
+    <message>
+        <source>후방 화질</source>
+        <translation>Qualidade traseira</translation>
+    </message>
+    <message>
+        <source>충격 감도</source>
+        <translation>Sensibilidade ao impacto</translation>
+    </message>
+    <message>
+        <source>차선이탈 경보</source>
+        <translation>Aviso de saída de faixa</translation>
+    </message>
+    <message>
+        <source>차선이탈 경보 속도</source>
+        <translation>Velocidade do aviso de saída de faixa</translation>
+    </message>
+    <message>
+        <source>전방추돌 경보</source>
+        <translation>Aviso de colisão frontal</translation>
+    </message>
+    <message>
+        <source>앞차 출발 알림</source>
+        <translation>Partida do veículo da frente</translation>
+    </message>
+    <message>
+        <source>주차모션</source>
+        <translation>Movimento em estacionamento</translation>
+    </message>
+    <message>
+        <source>타임랩스</source>
+        <translation>Time-lapse</translation>
+    </message>
+    <message>
+        <source>사용</source>
+        <translation>Ligado</translation>
+    </message>
+    <message>
+        <source>사용 안 함</source>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>모션 감지</source>
+        <translation>Deteção de movimento</translation>
+    </message>
+    <message>
+        <source>모션 감도</source>
+        <translation>Sensibilidade ao movimento</translation>
+    </message>
+    <message>
+        <source>주차 녹화 시간</source>
+        <translation>Tempo de gravação em estacionamento</translation>
+    </message>
+    <message>
+        <source>배터리 차단 전압 12V</source>
+        <translation>Tensão de corte da bateria 12V</translation>
+    </message>
+    <message>
+        <source>배터리 차단 전압 24V</source>
+        <translation>Tensão de corte da bateria 24V</translation>
+    </message>
+    <message>
+        <source>상시 충격 덮어쓰기</source>
+        <translation>Substituir impactos contínuos</translation>
+    </message>
+    <message>
+        <source>주차 모션 덮어쓰기</source>
+        <translation>Substituir movimentos em estacionamento</translation>
+    </message>
+    <message>
+        <source>주차 충격 덮어쓰기</source>
+        <translation>Substituir impactos em estacionamento</translation>
+    </message>
+    <message>
+        <source>수동 녹화 덮어쓰기</source>
+        <translation>Substituir gravações manuais</translation>
+    </message>
+    <message>
+        <source>보안 LED</source>
+        <translation>LED de segurança</translation>
+    </message>
+    <message>
+        <source>모드 1</source>
+        <translation>Modo 1</translation>
+    </message>
+    <message>
+        <source>모드 2</source>
+        <translation>Modo 2</translation>
+    </message>
+    <message>
+        <source>모드 3</source>
+        <translation>Modo 3</translation>
+    </message>
+    <message>
+        <source>메모리 분할</source>
+        <translation>Partição da memória</translation>
+    </message>
+    <message>
+        <source>기본</source>
+        <translation>Padrão</translation>
+    </message>
+    <message>
+        <source>수동 우선</source>
+        <translation>Manual primeiro</translation>
+    </message>
+    <message>
+        <source>주차 우선</source>
+        <translation>Estacionamento primeiro</translation>
+    </message>
+    <message>
+        <source>상시</source>
+        <translation>Contínua</translation>
+    </message>
+    <message>
+        <source>상시 충격</source>
+        <translation>Impacto contínuo</translation>
+    </message>
+    <message>
+        <source>주차 모션</source>
+        <translation>Movimento em estacionamento</translation>
+    </message>
+    <message>
+        <source>주차 충격</source>
+        <translation>Impacto em estacionamento</translation>
+    </message>
+    <message>
+        <source>수동</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>화면 터치 초기화</source>
+        <translation>Repor a calibração do toque</translation>
+    </message>
+    <message>
+        <source>켜짐</source>
+        <translation>Ligado</translation>
+    </message>
+    <message>
+        <source>꺼짐</source>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>낮음</source>
+        <translation>Baixa</translation>
+    </message>
+    <message>
+        <source>보통</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>높음</source>
+        <translation>Alta</translation>
+    </message>
 </context>
 </TS>

@@ -21,6 +21,7 @@
 #include "ui/device/select_device_view_controller.h"
 #include "ui/device/select_flash_memory_view_controller.h"
 #include "ui/settings/m420/m420_setting_view_controller.h"
+#include "ui/settings/web/web_setting_window_controller.h"
 
 using namespace tarvik;
 namespace fs = std::filesystem;
@@ -162,18 +163,32 @@ private slots:
         QCOMPARE(after.substr(412), before.substr(412));
         QCOMPARE(c.views().modelTextField->text(), QString("M640"));
 
-        for (int type : {6, 25}) {
-            const fs::path other = mountCard("OTHER" + std::to_string(type), type);
-            ModalScript answer({[](QWidget* w, OrvoViewController* p) {
-                QVERIFY(!qobject_cast<M420SettingViewController*>(p));
-                if (auto* box = qobject_cast<QMessageBox*>(w)) box->accept();
-                else if (p) p->cancelButtonTouched();
-                else w->close();
-            }});
-            c.card().openChosenCard(other.string());
-            QVERIFY(answer.done());
-            QCOMPARE(manager().modelType(), type);
-        }
+        // KRT: its own pane, modal until answered.
+        const fs::path krt = mountCard("KRTCARD", 6);
+        const std::string krtBefore = fileText(krt / "SETTING" / "blackbox.cfg");
+        QVERIFY(!krtBefore.empty());
+        ModalScript answer({[](QWidget* w, OrvoViewController* p) {
+            QVERIFY(!qobject_cast<M420SettingViewController*>(p));
+            if (p) p->cancelButtonTouched();
+            else w->close();
+        }});
+        c.card().openChosenCard(krt.string());
+        QVERIFY(answer.done());
+        QCOMPARE(manager().modelType(), 6);
+        QCOMPARE(fileText(krt / "SETTING" / "blackbox.cfg"), krtBefore);
+
+        // Web models: the camera's page in a window that does not block the loop;
+        // a second request while it is open brings up no second window.
+        const fs::path web = mountCard("WEBCARD", 25);
+        c.card().openChosenCard(web.string());
+        QCOMPARE(manager().modelType(), 25);
+        QPointer<WebSettingWindowController> window = WebSettingWindowController::instance();
+        QVERIFY(window);
+        QVERIFY(window->isModal() || window->windowModality() == Qt::ApplicationModal);
+        c.card().openChosenCard(web.string());
+        QCOMPARE(WebSettingWindowController::instance(), window.data());
+        window->reject();
+        QVERIFY(!WebSettingWindowController::instance());
     }
 };
 

@@ -230,8 +230,8 @@ private slots:
         QTest::qWait(200);
         const ino_t oldInode = inode(card.setting("setup.cfg"));
         QPointer<WebSettingWindowController> guard(w);
-        w->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(w));
+        // Without a window manager activation can be lost under load: ask again until it holds.
+        QVERIFY(QTest::qWaitFor([&] { w->activateWindow(); return QApplication::activeWindow() == w; }, 20000));
         QTest::keyClick(w->webView()->focusProxy() ? w->webView()->focusProxy() : w, Qt::Key_S, Qt::ControlModifier);
         QVERIFY(QTest::qWaitFor([&] { return guard.isNull(); }, 10000));
         QVERIFY(!WebSettingWindowController::instance());
@@ -280,8 +280,8 @@ private slots:
         QVERIFY(QTest::qWaitFor([&] { return format.size() == 2; }, 5000));
 
         QPointer<WebSettingWindowController> guard(w);
-        w->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(w));
+        // Without a window manager activation can be lost under load: ask again until it holds.
+        QVERIFY(QTest::qWaitFor([&] { w->activateWindow(); return QApplication::activeWindow() == w; }, 20000));
         // Escape typed into the page cancels.
         QTest::keyClick(w->webView()->focusProxy() ? w->webView()->focusProxy() : w, Qt::Key_Escape);
         QVERIFY(QTest::qWaitFor([&] { return guard.isNull(); }, 5000));
