@@ -1,12 +1,10 @@
 // tarvik check CARD [--json]: what on the card needs attention. Exit status 0
 // when all is well, 1 when something needs attention, 2 on a usage error.
 #include <cstdio>
-#include <cstring>
-#include <filesystem>
 #include <string>
 
 #include "cli/commands.h"
-#include "cli/json_text.h"
+#include "core/settings/profile/json_value.h"
 #include "core/library/check/card_report.h"
 
 namespace tarvik::cli {
@@ -14,13 +12,7 @@ namespace tarvik::cli {
 int checkCommand(int argc, char** argv) {
     std::string card;
     bool json = false;
-    for (int i = 1; i < argc; ++i) {
-        if (!std::strcmp(argv[i], "--json")) json = true;
-        else if (card.empty() && argv[i][0] != '-') card = argv[i];
-        else card.clear(), i = argc;
-    }
-    std::error_code ec;
-    if (card.empty() || !std::filesystem::is_directory(card, ec)) {
+    if (!readCardArguments(argc, argv, card, json)) {
         std::fprintf(stderr, "usage: tarvik check CARD [--json]\n");
         return 2;
     }
@@ -31,16 +23,16 @@ int checkCommand(int argc, char** argv) {
                     "  \"free_bytes\": %llu,\n  \"total_bytes\": %llu,\n"
                     "  \"settings\": {\"present\": %s, \"readable\": %s, \"model_type\": %lld, \"model_name\": %s, "
                     "\"length\": %lld, \"expected_length\": %lld},\n  \"findings\": [",
-                    jsonText(r.root).c_str(), r.clipCount, r.tripCount, r.needsAttention() ? "true" : "false",
+                    jsonQuote(r.root).c_str(), r.clipCount, r.tripCount, r.needsAttention() ? "true" : "false",
                     static_cast<unsigned long long>(r.freeBytes), static_cast<unsigned long long>(r.totalBytes),
                     s.present ? "true" : "false", s.readable ? "true" : "false", static_cast<long long>(s.modelType),
-                    jsonText(s.modelName).c_str(), static_cast<long long>(s.length),
+                    jsonQuote(s.modelName).c_str(), static_cast<long long>(s.length),
                     static_cast<long long>(s.expectedLength));
         for (std::size_t i = 0; i < r.findings.size(); ++i) {
             const CardFinding& f = r.findings[i];
             std::printf("%s\n    {\"severity\": \"%s\", \"kind\": %s, \"path\": %s, \"detail\": %s}", i ? "," : "",
-                        f.severity == FindingSeverity::Attention ? "attention" : "note", jsonText(f.kind).c_str(),
-                        jsonText(f.path).c_str(), jsonText(f.detail).c_str());
+                        f.severity == FindingSeverity::Attention ? "attention" : "note", jsonQuote(f.kind).c_str(),
+                        jsonQuote(f.path).c_str(), jsonQuote(f.detail).c_str());
         }
         std::printf("%s]\n}\n", r.findings.empty() ? "" : "\n  ");
     } else {

@@ -1,7 +1,12 @@
 #pragma once
 // Sub-commands of `tarvik`; argv[0] is the sub-command's own name.
 
+#include <string>
+
 namespace tarvik::cli {
+
+// CARD [--json], CARD an existing folder; false on anything else.
+bool readCardArguments(int argc, char** argv, std::string& card, bool& json);
 
 int telemetryCommand(int argc, char** argv);
 int cardCommand(int argc, char** argv);

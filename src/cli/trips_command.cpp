@@ -1,12 +1,10 @@
 // tarvik trips CARD [--json]: the drives on a card, each a run of clips
 // recorded one after another.
 #include <cstdio>
-#include <cstring>
-#include <filesystem>
 #include <string>
 
 #include "cli/commands.h"
-#include "cli/json_text.h"
+#include "core/settings/profile/json_value.h"
 #include "core/library/trips/trip_scanner.h"
 
 namespace tarvik::cli {
@@ -14,13 +12,7 @@ namespace tarvik::cli {
 int tripsCommand(int argc, char** argv) {
     std::string card;
     bool json = false;
-    for (int i = 1; i < argc; ++i) {
-        if (!std::strcmp(argv[i], "--json")) json = true;
-        else if (card.empty() && argv[i][0] != '-') card = argv[i];
-        else card.clear(), i = argc;
-    }
-    std::error_code ec;
-    if (card.empty() || !std::filesystem::is_directory(card, ec)) {
+    if (!readCardArguments(argc, argv, card, json)) {
         std::fprintf(stderr, "usage: tarvik trips CARD [--json]\n");
         return 2;
     }
@@ -31,12 +23,12 @@ int tripsCommand(int argc, char** argv) {
         if (json) {
             std::printf("%s\n  {\"folder\": %s, \"start\": %s, \"end\": %s, \"duration_seconds\": %.0f, "
                         "\"distance_metres\": %.0f, \"top_speed_kmh\": %u, \"has_telemetry\": %s, \"clips\": [",
-                        i ? "," : "", jsonText(t.folder).c_str(), jsonText(tripTimeText(t.start)).c_str(),
-                        jsonText(tripTimeText(t.end)).c_str(), t.seconds(), t.distanceMetres, t.topSpeedKmh,
+                        i ? "," : "", jsonQuote(t.folder).c_str(), jsonQuote(tripTimeText(t.start)).c_str(),
+                        jsonQuote(tripTimeText(t.end)).c_str(), t.seconds(), t.distanceMetres, t.topSpeedKmh,
                         t.hasTelemetry ? "true" : "false");
             for (std::size_t c = 0; c < t.clips.size(); ++c)
-                std::printf("%s{\"path\": %s, \"partner\": %s}", c ? ", " : "", jsonText(t.clips[c].path).c_str(),
-                            t.clips[c].partner.empty() ? "null" : jsonText(t.clips[c].partner).c_str());
+                std::printf("%s{\"path\": %s, \"partner\": %s}", c ? ", " : "", jsonQuote(t.clips[c].path).c_str(),
+                            t.clips[c].partner.empty() ? "null" : jsonQuote(t.clips[c].partner).c_str());
             std::printf("]}");
         } else {
             const long s = static_cast<long>(t.seconds());

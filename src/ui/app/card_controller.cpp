@@ -92,14 +92,6 @@ void CardController::settingButtonTouched() {
     }
 }
 
-void CardController::notYetAvailable(const QString& what) {
-    QMessageBox box(QMessageBox::Information, "Tarvik Viewer",
-                    tr("%1 is not available in this version of Tarvik Viewer.").arg(what), QMessageBox::Ok,
-                    v_.mainWindow);
-    box.setWindowModality(Qt::WindowModal);
-    box.exec();
-}
-
 int CardController::showModal(OrvoViewController& pane, bool showTitleBar) {
     SettingWindow window(v_.mainWindow);
     return window.showModalWindow(v_.mainWindow, pane.view(), &pane, showTitleBar);

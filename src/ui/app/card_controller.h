@@ -48,7 +48,6 @@ signals:
     void releaseCardRequested();
 
 private:
-    void notYetAvailable(const QString& what);
     // Shows the manager's model and the card's clips without searching the volumes.
     void showChosenCardModel();
     // Runs a pane modally over the main window with the given title bar; its result.
