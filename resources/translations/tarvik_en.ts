@@ -705,5 +705,125 @@ Select a model name to apply its default settings.</translation>
         <source>높음</source>
         <translation>High</translation>
     </message>
+    <message>
+        <source>Recording time</source>
+        <translation>Recording time</translation>
+    </message>
+    <message>
+        <source>Cannot be played</source>
+        <translation>Cannot be played</translation>
+    </message>
+    <message>
+        <source>Front without rear</source>
+        <translation>Front without rear</translation>
+    </message>
+    <message>
+        <source>Rear without front</source>
+        <translation>Rear without front</translation>
+    </message>
+    <message>
+        <source>No driving data</source>
+        <translation>No driving data</translation>
+    </message>
+    <message>
+        <source>Gap in the recording</source>
+        <translation>Gap in the recording</translation>
+    </message>
+    <message>
+        <source>Settings files</source>
+        <translation>Settings files</translation>
+    </message>
+    <message>
+        <source>Free space</source>
+        <translation>Free space</translation>
+    </message>
+    <message>
+        <source>Card report</source>
+        <translation>Card report</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Finding</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>Checking every clip on the card...</source>
+        <translation>Checking every clip on the card...</translation>
+    </message>
+    <message>
+        <source>no settings files</source>
+        <translation>no settings files</translation>
+    </message>
+    <message>
+        <source>settings file unreadable</source>
+        <translation>settings file unreadable</translation>
+    </message>
+    <message>
+        <source>settings readable</source>
+        <translation>settings readable</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>, %1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</source>
+        <translation>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</translation>
+    </message>
+    <message>
+        <source>%1 things need attention</source>
+        <translation>%1 things need attention</translation>
+    </message>
+    <message>
+        <source>All is well</source>
+        <translation>All is well</translation>
+    </message>
+    <message>
+        <source>Export route</source>
+        <translation>Export route</translation>
+    </message>
+    <message>
+        <source>Show clips</source>
+        <translation>Show clips</translation>
+    </message>
+    <message>
+        <source>Show trips</source>
+        <translation>Show trips</translation>
+    </message>
+    <message>
+        <source>Export route of the selected clips...</source>
+        <translation>Export route of the selected clips...</translation>
+    </message>
+    <message>
+        <source>Export route of the whole trip...</source>
+        <translation>Export route of the whole trip...</translation>
+    </message>
+    <message>
+        <source>Card report...</source>
+        <translation>Card report...</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>%1 clips</source>
+        <translation>%1 clips</translation>
+    </message>
 </context>
 </TS>

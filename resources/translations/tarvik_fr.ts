@@ -705,5 +705,125 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>높음</source>
         <translation>Élevée</translation>
     </message>
+    <message>
+        <source>Recording time</source>
+        <translation>Heure d'enregistrement</translation>
+    </message>
+    <message>
+        <source>Cannot be played</source>
+        <translation>Lecture impossible</translation>
+    </message>
+    <message>
+        <source>Front without rear</source>
+        <translation>Avant sans arrière</translation>
+    </message>
+    <message>
+        <source>Rear without front</source>
+        <translation>Arrière sans avant</translation>
+    </message>
+    <message>
+        <source>No driving data</source>
+        <translation>Aucune donnée de conduite</translation>
+    </message>
+    <message>
+        <source>Gap in the recording</source>
+        <translation>Interruption de l'enregistrement</translation>
+    </message>
+    <message>
+        <source>Settings files</source>
+        <translation>Fichiers de réglages</translation>
+    </message>
+    <message>
+        <source>Free space</source>
+        <translation>Espace libre</translation>
+    </message>
+    <message>
+        <source>Card report</source>
+        <translation>Rapport de la carte</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Constat</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Détail</translation>
+    </message>
+    <message>
+        <source>Checking every clip on the card...</source>
+        <translation>Vérification de chaque vidéo de la carte...</translation>
+    </message>
+    <message>
+        <source>no settings files</source>
+        <translation>aucun fichier de réglages</translation>
+    </message>
+    <message>
+        <source>settings file unreadable</source>
+        <translation>fichier de réglages illisible</translation>
+    </message>
+    <message>
+        <source>settings readable</source>
+        <translation>réglages lisibles</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>, %1 octets</translation>
+    </message>
+    <message>
+        <source>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</source>
+        <translation>%1 vidéos en %2 trajets  ·  %3 Gio libres sur %4  ·  %5</translation>
+    </message>
+    <message>
+        <source>%1 things need attention</source>
+        <translation>%1 points à vérifier</translation>
+    </message>
+    <message>
+        <source>All is well</source>
+        <translation>Tout va bien</translation>
+    </message>
+    <message>
+        <source>Export route</source>
+        <translation>Exporter l'itinéraire</translation>
+    </message>
+    <message>
+        <source>Show clips</source>
+        <translation>Afficher les vidéos</translation>
+    </message>
+    <message>
+        <source>Show trips</source>
+        <translation>Afficher les trajets</translation>
+    </message>
+    <message>
+        <source>Export route of the selected clips...</source>
+        <translation>Exporter l'itinéraire des vidéos sélectionnées...</translation>
+    </message>
+    <message>
+        <source>Export route of the whole trip...</source>
+        <translation>Exporter l'itinéraire du trajet entier...</translation>
+    </message>
+    <message>
+        <source>Card report...</source>
+        <translation>Rapport de la carte...</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>%1 clips</source>
+        <translation>%1 vidéos</translation>
+    </message>
 </context>
 </TS>

@@ -705,5 +705,125 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>높음</source>
         <translation>高</translation>
     </message>
+    <message>
+        <source>Recording time</source>
+        <translation>録画時刻</translation>
+    </message>
+    <message>
+        <source>Cannot be played</source>
+        <translation>再生できません</translation>
+    </message>
+    <message>
+        <source>Front without rear</source>
+        <translation>リアのないフロント</translation>
+    </message>
+    <message>
+        <source>Rear without front</source>
+        <translation>フロントのないリア</translation>
+    </message>
+    <message>
+        <source>No driving data</source>
+        <translation>走行データなし</translation>
+    </message>
+    <message>
+        <source>Gap in the recording</source>
+        <translation>録画の途切れ</translation>
+    </message>
+    <message>
+        <source>Settings files</source>
+        <translation>設定ファイル</translation>
+    </message>
+    <message>
+        <source>Free space</source>
+        <translation>空き容量</translation>
+    </message>
+    <message>
+        <source>Card report</source>
+        <translation>カードレポート</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Checking every clip on the card...</source>
+        <translation>カード内のすべての動画を確認しています...</translation>
+    </message>
+    <message>
+        <source>no settings files</source>
+        <translation>設定ファイルなし</translation>
+    </message>
+    <message>
+        <source>settings file unreadable</source>
+        <translation>設定ファイルを読み取れません</translation>
+    </message>
+    <message>
+        <source>settings readable</source>
+        <translation>設定ファイル読み取り可</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>、%1 バイト</translation>
+    </message>
+    <message>
+        <source>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</source>
+        <translation>動画 %1 本、走行 %2 回  ·  空き %3 / %4 GiB  ·  %5</translation>
+    </message>
+    <message>
+        <source>%1 things need attention</source>
+        <translation>要確認 %1 件</translation>
+    </message>
+    <message>
+        <source>All is well</source>
+        <translation>問題ありません</translation>
+    </message>
+    <message>
+        <source>Export route</source>
+        <translation>ルートを書き出す</translation>
+    </message>
+    <message>
+        <source>Show clips</source>
+        <translation>動画を表示</translation>
+    </message>
+    <message>
+        <source>Show trips</source>
+        <translation>走行を表示</translation>
+    </message>
+    <message>
+        <source>Export route of the selected clips...</source>
+        <translation>選択した動画のルートを書き出す...</translation>
+    </message>
+    <message>
+        <source>Export route of the whole trip...</source>
+        <translation>走行全体のルートを書き出す...</translation>
+    </message>
+    <message>
+        <source>Card report...</source>
+        <translation>カードレポート...</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>%1 clips</source>
+        <translation>動画 %1 本</translation>
+    </message>
 </context>
 </TS>

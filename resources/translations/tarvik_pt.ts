@@ -705,5 +705,125 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>높음</source>
         <translation>Alta</translation>
     </message>
+    <message>
+        <source>Recording time</source>
+        <translation>Hora da gravação</translation>
+    </message>
+    <message>
+        <source>Cannot be played</source>
+        <translation>Não pode ser reproduzido</translation>
+    </message>
+    <message>
+        <source>Front without rear</source>
+        <translation>Dianteira sem traseira</translation>
+    </message>
+    <message>
+        <source>Rear without front</source>
+        <translation>Traseira sem dianteira</translation>
+    </message>
+    <message>
+        <source>No driving data</source>
+        <translation>Sem dados de condução</translation>
+    </message>
+    <message>
+        <source>Gap in the recording</source>
+        <translation>Interrupção na gravação</translation>
+    </message>
+    <message>
+        <source>Settings files</source>
+        <translation>Ficheiros de definições</translation>
+    </message>
+    <message>
+        <source>Free space</source>
+        <translation>Espaço livre</translation>
+    </message>
+    <message>
+        <source>Card report</source>
+        <translation>Relatório do cartão</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Ocorrência</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Ficheiro</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detalhe</translation>
+    </message>
+    <message>
+        <source>Checking every clip on the card...</source>
+        <translation>A verificar todos os vídeos do cartão...</translation>
+    </message>
+    <message>
+        <source>no settings files</source>
+        <translation>sem ficheiros de definições</translation>
+    </message>
+    <message>
+        <source>settings file unreadable</source>
+        <translation>ficheiro de definições ilegível</translation>
+    </message>
+    <message>
+        <source>settings readable</source>
+        <translation>definições legíveis</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>, %1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</source>
+        <translation>%1 vídeos em %2 viagens  ·  %3 de %4 GiB livres  ·  %5</translation>
+    </message>
+    <message>
+        <source>%1 things need attention</source>
+        <translation>%1 pontos a verificar</translation>
+    </message>
+    <message>
+        <source>All is well</source>
+        <translation>Está tudo bem</translation>
+    </message>
+    <message>
+        <source>Export route</source>
+        <translation>Exportar percurso</translation>
+    </message>
+    <message>
+        <source>Show clips</source>
+        <translation>Mostrar vídeos</translation>
+    </message>
+    <message>
+        <source>Show trips</source>
+        <translation>Mostrar viagens</translation>
+    </message>
+    <message>
+        <source>Export route of the selected clips...</source>
+        <translation>Exportar o percurso dos vídeos selecionados...</translation>
+    </message>
+    <message>
+        <source>Export route of the whole trip...</source>
+        <translation>Exportar o percurso da viagem inteira...</translation>
+    </message>
+    <message>
+        <source>Card report...</source>
+        <translation>Relatório do cartão...</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>%1 clips</source>
+        <translation>%1 vídeos</translation>
+    </message>
 </context>
 </TS>

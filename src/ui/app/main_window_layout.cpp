@@ -14,6 +14,7 @@
 #include "ui/controls/absolute_click_style.h"
 #include "ui/controls/image_button.h"
 #include "ui/controls/image_library.h"
+#include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
 
@@ -275,7 +276,7 @@ void buildDashboard(MainWindowViews& v, QWidget* window) {
     v.latTextField->setGeometry(812, 60, 124, 22);
     v.lngTextField->setGeometry(812, 86, 124, 22);
     v.fileDateTextField->setGeometry(812, 130, 124, 40);
-    v.fileDateTextField->setToolTip("Recording time");
+    v.fileDateTextField->setToolTip(tr_k("Recording time"));
     v.fileDateTextField->setWordWrap(true);
     for (QLabel* l : {v.latTextField, v.lngTextField}) l->setStyleSheet("font-family: monospace; color: white;");
     v.fileDateTextField->setStyleSheet("color: white;");

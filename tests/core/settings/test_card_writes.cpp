@@ -76,7 +76,7 @@ TEST(CardWrites, KilledWriterLeavesOldOrNewRecordWhole) {
             // Keep replacing the file, starting with the record it does not
             // hold, so the kill lands at any point of a write.
             const bool holdsA = card.read("SETTING/setup.cfg") == a;
-            for (unsigned i = holdsA ? 1 : 0;; ++i) (i % 2 ? small : large).saveData();
+            for (unsigned i = holdsA ? 0 : 1;; ++i) (i % 2 ? small : large).saveData();
         }
         ::usleep(static_cast<useconds_t>(rng() % 12000));
         ::kill(pid, SIGKILL);

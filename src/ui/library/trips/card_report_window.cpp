@@ -10,23 +10,24 @@
 #include <QThread>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
 
 QString findingKindText(const std::string& kind) {
-    if (kind == "unplayable") return QObject::tr("Cannot be played");
-    if (kind == "front-without-rear") return QObject::tr("Front without rear");
-    if (kind == "rear-without-front") return QObject::tr("Rear without front");
-    if (kind == "no-telemetry") return QObject::tr("No driving data");
-    if (kind == "gap") return QObject::tr("Gap in the recording");
-    if (kind == "settings") return QObject::tr("Settings files");
-    if (kind == "free-space") return QObject::tr("Free space");
+    if (kind == "unplayable") return tr_k("Cannot be played");
+    if (kind == "front-without-rear") return tr_k("Front without rear");
+    if (kind == "rear-without-front") return tr_k("Rear without front");
+    if (kind == "no-telemetry") return tr_k("No driving data");
+    if (kind == "gap") return tr_k("Gap in the recording");
+    if (kind == "settings") return tr_k("Settings files");
+    if (kind == "free-space") return tr_k("Free space");
     return QString::fromStdString(kind);
 }
 
 CardReportWindow::CardReportWindow(QWidget* parent) : QDialog(parent) {
     setObjectName("cardReportWindow");
-    setWindowTitle(tr("Card report"));
+    setWindowTitle(tr_k("Card report"));
     resize(820, 460);
     auto* layout = new QVBoxLayout(this);
     title_ = new QLabel(this);
@@ -36,7 +37,7 @@ CardReportWindow::CardReportWindow(QWidget* parent) : QDialog(parent) {
     verdict_ = new QLabel(this);
     list_ = new QTreeWidget(this);
     list_->setColumnCount(3);
-    list_->setHeaderLabels({tr("Finding"), tr("File"), tr("Detail")});
+    list_->setHeaderLabels({tr_k("Finding"), tr_k("File"), tr_k("Detail")});
     list_->setRootIsDecorated(false);
     list_->setAlternatingRowColors(true);
     list_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
@@ -55,7 +56,7 @@ void CardReportWindow::checkCard(const QString& root) {
     checking_ = true;
     const int generation = ++generation_;
     title_->setText(QFileInfo(root).absoluteFilePath());
-    summary_->setText(tr("Checking every clip on the card..."));
+    summary_->setText(tr_k("Checking every clip on the card..."));
     verdict_->clear();
     list_->clear();
     QPointer<CardReportWindow> self(this);
@@ -75,18 +76,18 @@ void CardReportWindow::showReport(const CardReport& r) {
     checking_ = false;
     title_->setText(QString::fromStdString(r.root));
     const SettingsState& s = r.settings;
-    QString settings = !s.present ? tr("no settings files")
-                       : !s.readable ? tr("settings file unreadable")
-                       : tr("settings readable") + (s.modelName.empty() ? QString() : ", " + QString::fromStdString(s.modelName));
-    if (s.length >= 0) settings += tr(", %1 bytes").arg(s.length);
-    summary_->setText(tr("%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5")
+    QString settings = !s.present ? tr_k("no settings files")
+                       : !s.readable ? tr_k("settings file unreadable")
+                       : tr_k("settings readable") + (s.modelName.empty() ? QString() : ", " + QString::fromStdString(s.modelName));
+    if (s.length >= 0) settings += tr_k(", %1 bytes").arg(s.length);
+    summary_->setText(tr_k("%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5")
                           .arg(r.clipCount)
                           .arg(r.tripCount)
                           .arg(double(r.freeBytes) / (1 << 30), 0, 'f', 1)
                           .arg(double(r.totalBytes) / (1 << 30), 0, 'f', 1)
                           .arg(settings));
     const int attention = r.count(FindingSeverity::Attention);
-    verdict_->setText(attention ? tr("%1 things need attention").arg(attention) : tr("All is well"));
+    verdict_->setText(attention ? tr_k("%1 things need attention").arg(attention) : tr_k("All is well"));
     verdict_->setStyleSheet(attention ? "color: #eb4034; font-weight: 600;" : "color: #3fae5a; font-weight: 600;");
     list_->clear();
     for (const CardFinding& f : r.findings) {

@@ -12,6 +12,7 @@
 #include "core/library/trips/clip_container.h"
 #include "core/library/trips/trip_route.h"
 #include "core/util/atomic_file.h"
+#include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
 
@@ -24,7 +25,7 @@ const char* const kFilters = "GPX 1.1 (*.gpx);;KML (*.kml);;GeoJSON (*.geojson *
 RouteExportController::RouteExportController(QWidget* dialogParent, QObject* parent)
     : QObject(parent), dialogParent_(dialogParent) {
     choose_ = [](QWidget* p, const QString& suggested, const QString& filters, QString* filter) {
-        return QFileDialog::getSaveFileName(p, QObject::tr("Export route"), suggested, filters, filter);
+        return QFileDialog::getSaveFileName(p, tr_k("Export route"), suggested, filters, filter);
     };
 }
 

@@ -21,6 +21,7 @@
 #include "ui/library/trips/route_export_controller.h"
 #include "ui/library/trips/trip_list_view.h"
 #include "ui/telemetry/map_controller.h"
+#include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
 
@@ -197,18 +198,18 @@ bool TripFeatures::playTrip(const Trip& trip) {
 void TripFeatures::showContextMenu(const QPoint& at) {
     QMenu menu(clipList_);
     if (tripList_->isVisible()) {
-        menu.addAction(tr("Show clips"), this, [this] { showTripList(false); });
+        menu.addAction(tr_k("Show clips"), this, [this] { showTripList(false); });
         menu.exec(tripList_->viewport()->mapToGlobal(at));
         return;
     }
-    menu.addAction(tr("Show trips"), this, [this] { showTripList(true); })
+    menu.addAction(tr_k("Show trips"), this, [this] { showTripList(true); })
         ->setEnabled(!catalogue_.selectedVideoDirectoryUrl().empty());
     menu.addSeparator();
     const bool any = !selectedClips().empty();
-    menu.addAction(tr("Export route of the selected clips..."), this, [this] { exportSelection(); })->setEnabled(any);
-    menu.addAction(tr("Export route of the whole trip..."), this, [this] { exportTripOfSelection(); })->setEnabled(any);
+    menu.addAction(tr_k("Export route of the selected clips..."), this, [this] { exportSelection(); })->setEnabled(any);
+    menu.addAction(tr_k("Export route of the whole trip..."), this, [this] { exportTripOfSelection(); })->setEnabled(any);
     menu.addSeparator();
-    menu.addAction(tr("Card report..."), this, [this] { showCardReport(); })
+    menu.addAction(tr_k("Card report..."), this, [this] { showCardReport(); })
         ->setEnabled(!catalogue_.selectedVideoDirectoryUrl().empty());
     menu.exec(clipList_->viewport()->mapToGlobal(at));
 }

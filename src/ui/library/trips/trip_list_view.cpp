@@ -10,13 +10,14 @@
 
 #include "core/library/trips/trip_route.h"
 #include "core/library/trips/trip_scanner.h"
+#include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
 
 TripListView::TripListView(QTableView* clipList) : QTreeWidget(clipList->parentWidget()), clipList_(clipList) {
     setObjectName("tripListView");
     setColumnCount(5);
-    setHeaderLabels({tr("Start"), tr("End"), tr("Time"), tr("km"), tr("km/h")});
+    setHeaderLabels({tr_k("Start"), tr_k("End"), tr_k("Time"), QStringLiteral("km"), QStringLiteral("km/h")});
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     header()->setStretchLastSection(false);
@@ -75,7 +76,7 @@ void TripListView::fill() {
         item->setText(3, known ? QString::number(t.distanceMetres / 1000.0, 'f', 2) : QStringLiteral("-"));
         item->setText(4, known ? QString::number(t.topSpeedKmh) : QStringLiteral("-"));
         for (int c = 2; c < 5; ++c) item->setTextAlignment(c, Qt::AlignRight | Qt::AlignVCenter);
-        item->setToolTip(0, tr("%n clips", nullptr, int(t.clips.size())) + "  " + QString::fromStdString(t.folder));
+        item->setToolTip(0, tr_k("%1 clips").arg(t.clips.size()) + "  " + QString::fromStdString(t.folder));
     }
 }
 
