@@ -13,6 +13,7 @@
 #include <QOpenGLFunctions>
 #include <QThreadPool>
 #include <QTableView>
+#include <QWindow>
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -27,6 +28,7 @@
 #include "cardgen/video_maker.h"
 #include "core/library/clip_catalogue.h"
 #include "ui/app/catalogue_controller.h"
+#include "ui/app/main_window.h"
 #include "ui/app/main_window_controller.h"
 #include "ui/app/main_window_views.h"
 #include "ui/library/playback/dashboard_widgets.h"
@@ -41,7 +43,7 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
-constexpr int kRuns = 5;
+constexpr int kRuns = 9;
 // What opening this pair took before the players read the card's files directly.
 constexpr double kEarlierOpenSeconds = 1.24;
 const fs::path kRoot = fs::temp_directory_path() / "tarvik-bench-open-pair";
@@ -199,6 +201,10 @@ double doubleClickSeconds(MainWindowController& window, int row) {
     while (framed < 2 && Clock::now() - t0 < std::chrono::seconds(60))
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
     const double s = std::chrono::duration<double>(Clock::now() - t0).count();
+    if (framed < 2)
+        for (OrvoAVView* v : {playback.bigMovieView(), playback.smallMovieView()})
+            std::fprintf(stderr, "view %s: %s, player %s\n", qPrintable(v->fileName()), orvoAVViewStatusName(v->status()),
+                         v->player() ? "yes" : "no");
     playback.stopVideo();
     playback.bigMovieView()->reset();
     playback.smallMovieView()->reset();
@@ -227,6 +233,12 @@ int main(int argc, char** argv) {
     }
     MainWindowController window;
     window.showMainWindow();
+    // The splash goes first; the list exists once the main window is up.
+    const auto shownDeadline = Clock::now() + std::chrono::seconds(30);
+    while (!(window.mainWindow()->isVisible() && window.mainWindow()->windowHandle() &&
+             window.mainWindow()->windowHandle()->isExposed()) &&
+           Clock::now() < shownDeadline)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
     window.catalogue().chooseFolder((kRoot / "card").string());
     int row = -1;
     const auto& list = window.catalogue().catalogue().filteredVideoFileList();
@@ -250,7 +262,7 @@ int main(int argc, char** argv) {
         const double o = doubleClickSeconds(window, row);
         settle();
         if (b < 0 || o < 0) {
-            std::fprintf(stderr, "a player did not show a frame within a minute\n");
+            std::fprintf(stderr, "a player did not show a frame within a minute (plain %.3f, viewer %.3f)\n", b, o);
             return 1;
         }
         base.push_back(b), ours.push_back(o);

@@ -1,9 +1,13 @@
 #pragma once
 // An opened libavformat input that closes itself; libav's log stays quiet.
+// The file is read with positioned reads of our own: a seek costs nothing
+// and a small sample between large pictures costs one read.
 
+#include <cstdint>
 #include <string>
 
 struct AVFormatContext;
+struct AVIOContext;
 
 namespace tarvik {
 
@@ -18,7 +22,14 @@ public:
     explicit operator bool() const { return ctx_ != nullptr; }
 
 private:
+    static int readPacket(void* self, std::uint8_t* buf, int size);
+    static std::int64_t seek(void* self, std::int64_t offset, int whence);
+
     AVFormatContext* ctx_ = nullptr;
+    AVIOContext* io_ = nullptr;
+    int fd_ = -1;
+    std::int64_t pos_ = 0;
+    std::int64_t size_ = 0;
 };
 
 }  // namespace tarvik
