@@ -13,7 +13,7 @@ namespace tarvik::bench {
 inline void tableRow(const std::string& name, double ratio, const std::string& goal, bool met,
                      const std::string& note = {}) {
     char r[32];
-    std::snprintf(r, sizeof r, ratio < 0 ? "-" : "%.3f", ratio);
+    std::snprintf(r, sizeof r, ratio < 0 ? "-" : "%.3g", ratio);
     const std::string verdict = ratio < 0 ? "skipped" : (met ? "met" : "NOT met");
     std::printf("RESULT %s: ratio %s, goal %s: %s%s%s\n", name.c_str(), r, goal.c_str(), verdict.c_str(),
                 note.empty() ? "" : " -- ", note.c_str());
