@@ -93,6 +93,7 @@ public:
         const auto t0 = Clock::now();
         Player p[2];
         bool ok = start(p[0], a) && start(p[1], b);
+        if (!ok) std::fprintf(stderr, "plain libmpv: could not start a player\n");
         int framed = 0;
         while (ok && framed < 2 && Clock::now() - t0 < std::chrono::seconds(60)) {
             {
@@ -188,6 +189,9 @@ private:
     bool signalled_ = false;
 };
 
+// What the double-click itself took before returning to the event loop.
+double gSyncSeconds = 0;
+
 // Double-click to both first frames in the viewer's own window.
 double doubleClickSeconds(MainWindowController& window, int row) {
     PlaybackController& playback = window.playback();
@@ -195,6 +199,7 @@ double doubleClickSeconds(MainWindowController& window, int row) {
     const auto t0 = Clock::now();
     window.views().fileListTableView->selectRow(row);
     window.catalogue().videoFileListDoubleClicked();
+    gSyncSeconds = std::chrono::duration<double>(Clock::now() - t0).count();
     // The players were created by the double-click; loading has only begun.
     for (OrvoAVView* v : {playback.bigMovieView(), playback.smallMovieView()})
         if (v->player()) QObject::connect(v->player(), &MpvPlayer::firstFrameRendered, [&] { ++framed; });
@@ -256,17 +261,21 @@ int main(int argc, char** argv) {
 
     PlainMpvPair plain;
     std::vector<double> ours, base;
-    for (int i = 0; i < kRuns; ++i) {
+    int failures = 0;
+    for (int i = 0; i < kRuns;) {
         const double b = plain.openSeconds(front, rear);
         settle();
         const double o = doubleClickSeconds(window, row);
         settle();
         if (b < 0 || o < 0) {
-            std::fprintf(stderr, "a player did not show a frame within a minute (plain %.3f, viewer %.3f)\n", b, o);
-            return 1;
+            // A loaded machine can starve a player now and then: try again, but not forever.
+            std::fprintf(stderr, "no first frame within a minute (plain %.3f, viewer %.3f)\n", b, o);
+            if (++failures > 3) return 1;
+            continue;
         }
         base.push_back(b), ours.push_back(o);
-        std::printf("run %d: double-click %.3f s, two plain libmpv opens %.3f s\n", i + 1, o, b);
+        std::printf("run %d: double-click %.3f s (%.3f s before the event loop), two plain libmpv opens %.3f s\n",
+                    ++i, o, gSyncSeconds, b);
     }
     const double o = median(ours), b = median(base);
     std::printf("median: double-click to both first frames %.3f s, two plain libmpv opens %.3f s\n", o, b);
