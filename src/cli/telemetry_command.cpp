@@ -8,6 +8,10 @@
 #include <memory>
 #include <string>
 
+extern "C" {
+#include <libavutil/log.h>
+}
+
 #include "cli/commands.h"
 #include "core/media/subtitle_track.h"
 #include "core/telemetry/orvo_clip_data.h"
@@ -61,6 +65,8 @@ int telemetryCommand(int argc, char** argv) {
     auto data = std::make_unique<OrvoClipData>();
     const std::string name = clip.filename().string();
     if (lower(clip.extension().string()) == ".mp4") {
+        // A damaged clip must not fill the terminal with libav's complaints.
+        av_log_set_level(AV_LOG_QUIET);
         // Its telemetry is in a subtitle track, read in-process; a clip
         // that cannot be read has none, like any other clip without telemetry.
         SubtitleTrack::load(clip.string(), *data);

@@ -2,7 +2,6 @@
 
 extern "C" {
 #include <libavformat/avformat.h>
-#include <libavutil/log.h>
 #include <libavutil/mem.h>
 }
 
@@ -20,8 +19,6 @@ constexpr int kBufferSize = 4096;
 }  // namespace
 
 LibavInput::LibavInput(const std::string& path) {
-    // A damaged clip would otherwise print to the terminal of `tarvik` or the viewer.
-    av_log_set_level(AV_LOG_QUIET);
     fd_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     struct stat st {};
     if (fd_ < 0 || ::fstat(fd_, &st) != 0 || !S_ISREG(st.st_mode)) return;

@@ -1,5 +1,6 @@
 #pragma once
-// An opened libavformat input that closes itself; libav's log stays quiet.
+// An opened libavformat input that closes itself. It leaves libav's global
+// state (log level and callback) alone: in the viewer, libmpv owns it.
 // The file is read with positioned reads of our own: a seek costs nothing
 // and a small sample between large pictures costs one read.
 
