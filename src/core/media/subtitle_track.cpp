@@ -10,6 +10,7 @@ extern "C" {
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "core/telemetry/telemetry_readers.h"
+#include "core/util/bounded_file.h"
 
 namespace tarvik {
 
@@ -94,7 +95,7 @@ bool SubtitleTrack::load(const std::string& clipPath, OrvoClipData& data, Subtit
     const std::optional<std::string> text = srtText(clipPath);
     data = OrvoClipData();
     const std::string_view t = text ? std::string_view(*text) : std::string_view();
-    data.setClipDataCount(t.empty() ? 0 : readers::readSrtCues(MappedFile(t.data(), t.size()), data));
+    data.setClipDataCount(t.empty() ? 0 : readers::readSrtCues(BoundedFile(t.data(), t.size()), data));
     if (cues) cues->loadFromText(t);
     return text.has_value();
 }
