@@ -243,6 +243,10 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(small()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
         playback().pauseVideo();
+        // The second player's ready report may still be on its way: it must
+        // not start the clip again.
+        QTest::qWait(200);
+        QVERIFY(playback().isVideoPaused());
         playback().setCurrentVideoTime(1.0);
         QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - 1.0) < 1e-3, 5000);
         const double t0 = big()->currentTime();

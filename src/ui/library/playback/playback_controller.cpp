@@ -217,6 +217,7 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     dashboard_->resetLastPosition();
 
     failureWatch_->disarm();
+    startedThisLoad_ = false;
     // Whatever cannot even be read is refused before anything is started.
     const ClipFileState state = checkClipFile(url);
     if (state == ClipFileState::Missing || state == ClipFileState::Unreadable || state == ClipFileState::Empty)
@@ -309,6 +310,8 @@ void PlaybackController::setCurrentVideoTime(double seconds) {
 }
 
 void PlaybackController::onMovieReady() {
+    if (startedThisLoad_) return;
+    startedThisLoad_ = true;
     playVideo();
     animation_->startPlayAnimation();
 }
