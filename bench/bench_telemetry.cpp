@@ -286,7 +286,7 @@ BENCHMARK(BM_ChunkWalkGeneral_1GiB)->UseManualTime()->Iterations(10)->Unit(bench
 BENCHMARK(BM_ChunkWalkKrt_1GiB)->UseManualTime()->Iterations(10)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ChunkWalkGeneralCold_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ChunkWalkKrtCold_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_TextRecordScan_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_TextRecordScan_1GiB)->UseManualTime()->Iterations(6)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_TailText_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_LoaderChain_1GiB)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 

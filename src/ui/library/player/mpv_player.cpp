@@ -93,6 +93,8 @@ MpvPlayer::MpvPlayer(QObject* parent) : QObject(parent) {
         {"vo", "libmpv"},         {"keep-open", "yes"},   {"pause", "yes"},
         {"hr-seek", "yes"},       {"idle", "yes"},        {"audio-fallback-to-null", "yes"},
         {"load-scripts", "no"},   {"ytdl", "no"},         {"osc", "no"},
+        // Nor mpv's other built-in scripts: each would start a Lua state per player.
+        {"load-stats-overlay", "no"}, {"load-osd-console", "no"}, {"load-auto-profiles", "no"},
         {"input-default-bindings", "no"}, {"input-vo-keyboard", "no"}, {"terminal", "no"},
         {"hwdec", "no"},          {"gpu-hwdec-interop", "no"},          {"sub-auto", "no"},     {"audio-file-auto", "no"},
         // The desktop's sound servers, then silence. mpv's own probe would go on to
