@@ -45,9 +45,16 @@ sanitize: $(SANITIZE_BUILD)/build.ninja
 	cd $(SANITIZE_BUILD) && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
 	  ctest --output-on-failure -j $(JOBS) --timeout 900
 
+# Benchmarks that open players need an X server: the same one `make test` uses.
+# Each program adds its rows to one table, printed at the end.
+BENCH_TABLE = $(abspath $(BUILD))/bench/results.tsv
 bench: build
-	cmake --build $(BUILD) --target benchmarks
-	for b in $(BUILD)/bench/bench_*; do [ -x "$$b" ] && "$$b" || exit 1; done
+	cmake --build $(BUILD) --target benchmarks tarvik
+	rm -f $(BENCH_TABLE)
+	cd $(BUILD) && TARVIK_BENCH_TABLE=$(BENCH_TABLE) QTWEBENGINE_DISABLE_SANDBOX=1 \
+	  xvfb-run -a -s "-screen 0 1920x1080x24" sh -c \
+	  'for b in bench/bench_*; do [ -x "$$b" ] || continue; echo "== $$b"; "$$b" || exit 1; done'
+	@tools/bench/print_table.sh $(BENCH_TABLE)
 
 # Installs the programs and their data into PREFIX (no root needed for a
 # prefix of one's own, e.g. make install PREFIX=$$HOME/.local).

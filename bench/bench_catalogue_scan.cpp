@@ -1,7 +1,8 @@
 // Scan + filter + sort of a card of 10,000 clips in nested folders, against a
-// plain recursive walk of the same tree in the same run. Reports the ratio.
+// raw readdir walk of the same tree in the same run. Reports the ratio.
 
 #include <benchmark/benchmark.h>
+#include <dirent.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -10,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "bench_table.h"
 #include "cardgen/card_plan.h"
 #include "core/library/clip_catalogue.h"
 
@@ -34,13 +36,28 @@ const std::string& cardRoot() {
     return root;
 }
 
-// What any program walking the card would do: every regular file's path.
-void BM_PlainRecursiveWalk(benchmark::State& state) {
-    const std::string& root = cardRoot();
+// The least any program listing the card can do: readdir, the entry's type
+// as the directory gives it, every regular file's path.
+void walk(std::string& dir, std::vector<std::string>& files) {
+    DIR* d = opendir(dir.c_str());
+    if (!d) return;
+    const std::size_t len = dir.size();
+    while (const dirent* e = readdir(d)) {
+        if (e->d_name[0] == '.' && (!e->d_name[1] || (e->d_name[1] == '.' && !e->d_name[2]))) continue;
+        dir += '/';
+        dir += e->d_name;
+        if (e->d_type == DT_DIR) walk(dir, files);
+        else if (e->d_type == DT_REG) files.push_back(dir);
+        dir.resize(len);
+    }
+    closedir(d);
+}
+
+void BM_RawReaddirWalk(benchmark::State& state) {
     for (auto _ : state) {
+        std::string dir = cardRoot();
         std::vector<std::string> files;
-        for (const auto& e : fs::recursive_directory_iterator(root))
-            if (e.is_regular_file()) files.push_back(e.path().string());
+        walk(dir, files);
         benchmark::DoNotOptimize(files.data());
     }
 }
@@ -57,7 +74,7 @@ void BM_CatalogueScanFilterSort(benchmark::State& state) {
     state.counters["clips"] = static_cast<double>(rows);
 }
 
-BENCHMARK(BM_PlainRecursiveWalk)->Unit(benchmark::kMillisecond)->MinTime(1.0);
+BENCHMARK(BM_RawReaddirWalk)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_CatalogueScanFilterSort)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 
 class RatioReporter : public benchmark::ConsoleReporter {
@@ -82,11 +99,14 @@ int main(int argc, char** argv) {
     benchmark::RunSpecifiedBenchmarks(&reporter);
     // CPU time is the steadier figure on a shared machine; wall time is shown too.
     auto ratio = [](std::map<std::string, double>& t) {
-        const double base = t["BM_PlainRecursiveWalk"], ours = t["BM_CatalogueScanFilterSort"];
+        const double base = t["BM_RawReaddirWalk"], ours = t["BM_CatalogueScanFilterSort"];
         return base > 0 ? ours / base : 0.0;
     };
-    std::printf("catalogue scan+filter+sort / plain walk: %.2fx CPU time, %.2fx wall time (target <= 1.5x)\n",
-                ratio(reporter.cpu), ratio(reporter.real));
+    const double cpu = ratio(reporter.cpu), wall = ratio(reporter.real);
+    char note[96];
+    std::snprintf(note, sizeof note, "CPU time; wall time %.2fx", wall);
+    tarvik::bench::tableRow("catalogue scan of 10,000 clips / raw readdir walk", cpu, "<= 1.5", cpu > 0 && cpu <= 1.5,
+                            note);
     benchmark::Shutdown();
     return 0;
 }

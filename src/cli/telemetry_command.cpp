@@ -1,9 +1,6 @@
 // tarvik telemetry CLIP [--format csv|gpx|geojson|kml] [--krt]
 // Reads a clip's telemetry the way the player does and prints it.
-#include <unistd.h>
-
 #include <cctype>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -11,10 +8,14 @@
 #include <memory>
 #include <string>
 
+extern "C" {
+#include <libavutil/log.h>
+}
+
 #include "cli/commands.h"
+#include "core/media/subtitle_track.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/route_exporter.h"
-#include "core/util/process_runner.h"
 
 namespace tarvik::cli {
 
@@ -27,33 +28,12 @@ std::string lower(std::string s) {
     return s;
 }
 
-std::string ffmpeg() {
-    const char* env = std::getenv("TARVIK_FFMPEG");
-    return env && *env ? env : "ffmpeg";
-}
-
 // The KRT family's clip names; their telemetry needs that family's reader.
 bool isKrtClipName(const std::string& name) {
     if (name.size() < 4 || name.compare(name.size() - 4, 4, ".avi") != 0) return false;
     for (const char* p : {"Rec_", "Event_", "Park_", "Manual_"})
         if (name.rfind(p, 0) == 0) return true;
     return false;
-}
-
-// An MP4 keeps its telemetry in a subtitle track: extract it next to nothing
-// of the user's, into a folder of our own, and read it from there.
-bool loadFromSubtitleTrack(const fs::path& clip, OrvoClipData& data) {
-    char templ[] = "/tmp/tarvik-telemetry-XXXXXX";
-    if (!mkdtemp(templ)) return false;
-    const fs::path dir = templ;
-    const fs::path srt = dir / (clip.stem().string() + ".srt");
-    ProcessResult r = ProcessRunner::run(ffmpeg(), {"-i", clip.string(), "-vn", "-an", "-c:s", "text", srt.string()},
-                                         std::chrono::minutes(2));
-    if (!r.started) std::fprintf(stderr, "tarvik telemetry: could not run %s\n", ffmpeg().c_str());
-    data.loadVideoFileCilpDataFromFilePath(srt.string());
-    std::error_code ec;
-    fs::remove_all(dir, ec);
-    return r.started;
 }
 
 int usage() {
@@ -85,7 +65,11 @@ int telemetryCommand(int argc, char** argv) {
     auto data = std::make_unique<OrvoClipData>();
     const std::string name = clip.filename().string();
     if (lower(clip.extension().string()) == ".mp4") {
-        if (!loadFromSubtitleTrack(clip, *data)) return 1;
+        // A damaged clip must not fill the terminal with libav's complaints.
+        av_log_set_level(AV_LOG_QUIET);
+        // Its telemetry is in a subtitle track, read in-process; a clip
+        // that cannot be read has none, like any other clip without telemetry.
+        SubtitleTrack::load(clip.string(), *data);
     } else if (krt || isKrtClipName(name)) {
         data->loadVideoFileCilpDataFromFilePath_KRT(clip.string());
     } else {

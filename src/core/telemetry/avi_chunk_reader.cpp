@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <string_view>
@@ -16,6 +17,8 @@ namespace {
 // A second never holds more readings than this; later ones are dropped.
 constexpr std::size_t kMaxReadingsPerSecond = 60;
 constexpr std::size_t kMaxLongText = 64u << 10;
+// More indexed chunks than hours of video have; a larger index is not used.
+constexpr std::size_t kMaxIndexed = 1u << 19;
 
 std::uint32_t le32(const unsigned char* p) {
     return static_cast<std::uint32_t>(p[0]) | static_cast<std::uint32_t>(p[1]) << 8 |
@@ -95,6 +98,170 @@ struct ChunkWalk {
     std::vector<std::string_view> f;
 };
 
+// The chunks of the index that are not text, in file order: what lies
+// between them is read, everything they cover is skipped unread.
+struct Indexed {
+    std::uint64_t pos;  // of the chunk header
+    std::uint32_t size;
+    unsigned char tag[4];
+};
+
+// Where the movie data and its index are; zero sizes when not found.
+struct Layout {
+    std::uint64_t moviData = 0, moviEnd = 0;  // after the "movi" type, end of the list
+    std::uint64_t index = 0, indexSize = 0;   // idx1 payload
+};
+
+Layout findLayout(const BoundedFile& file) {
+    Layout l;
+    const std::uint64_t n = file.size();
+    unsigned char h[12];
+    if (!file.readAt(4, h, 4)) return l;
+    // A clip continued in further RIFF segments has no single index of it all.
+    if (8 + static_cast<std::uint64_t>(le32(h)) + 8 < n) return {};
+    std::uint64_t pos = 12;
+    for (int i = 0; i < 64 && pos + 12 <= n; ++i) {
+        if (!file.readAt(static_cast<std::size_t>(pos), h, 12)) return {};
+        const std::uint64_t size = le32(h + 4);
+        if (std::memcmp(h, "LIST", 4) == 0 && std::memcmp(h + 8, "movi", 4) == 0) {
+            l.moviData = pos + 12;
+            l.moviEnd = std::min(n, pos + 8 + size);
+        } else if (std::memcmp(h, "idx1", 4) == 0) {
+            l.index = pos + 8;
+            l.indexSize = std::min(size, n - l.index);
+            break;
+        }
+        pos += 8 + size + (size & 1);
+    }
+    if (!l.moviData || !l.index) return {};
+    return l;
+}
+
+// The non-text chunks the index lists, in file order and not overlapping;
+// false when the index does not describe the movie data so.
+bool readIndex(const BoundedFile& file, const Layout& l, std::vector<Indexed>& out) {
+    // Each entry: tag, flags, offset (from the "movi" type, or from the file's
+    // start in some writers), size.
+    constexpr std::size_t kEntry = 16, kBlock = 4096 * kEntry;
+    std::vector<unsigned char> block(kBlock);
+    std::uint64_t base = 0, end = l.moviData;
+    bool first = true;
+    for (std::uint64_t at = 0; at + kEntry <= l.indexSize; at += kBlock) {
+        const std::size_t len = static_cast<std::size_t>(std::min<std::uint64_t>(kBlock, l.indexSize - at) / kEntry * kEntry);
+        if (!file.readAt(static_cast<std::size_t>(l.index + at), block.data(), len)) return false;
+        for (std::size_t e = 0; e < len; e += kEntry) {
+            const unsigned char* entry = block.data() + e;
+            const std::uint64_t offset = le32(entry + 8);
+            if (first) {
+                base = offset < l.moviData ? l.moviData - 4 : 0;
+                first = false;
+            }
+            Indexed c{base + offset, le32(entry + 12), {entry[0], entry[1], entry[2], entry[3]}};
+            if (isTextChunk(c.tag)) continue;
+            // Lists inside the movie data are left to the plain walk.
+            if (std::memcmp(c.tag, "LIST", 4) == 0 || std::memcmp(c.tag, "rec ", 4) == 0) return false;
+            if (c.pos < end || c.pos + 8 + c.size > l.moviEnd) return false;
+            end = c.pos + 8 + c.size + (c.size & 1);
+            if (out.size() >= kMaxIndexed) return false;
+            out.push_back(c);
+        }
+    }
+    return !out.empty();
+}
+
+// The text chunks in [from, to), none of which the index lists; `head`
+// holds the first bytes of the range.
+bool walkGap(const BoundedFile& file, std::uint64_t from, std::uint64_t to, const unsigned char* head,
+             std::size_t headLen, ChunkWalk& walk) {
+    WindowReader window(file);
+    unsigned char h[8];
+    unsigned char small[256];
+    auto get = [&](std::uint64_t pos, void* dst, std::size_t n) {
+        if (pos - from + n <= headLen) {
+            std::memcpy(dst, head + (pos - from), n);
+            return true;
+        }
+        return window.get(pos, dst, n);
+    };
+    std::uint64_t pos = from;
+    while (pos + 8 <= to && !walk.raw.full()) {
+        if (!get(pos, h, 8)) return false;
+        const std::uint64_t size = le32(h + 4);
+        pos += 8;
+        if (isTextChunk(h)) {
+            const std::size_t len = static_cast<std::size_t>(std::min<std::uint64_t>(size, file.size() - pos));
+            if (len <= sizeof small) {
+                if (!get(pos, small, len)) return false;
+                walk.payload(small, len);
+            } else {
+                std::vector<unsigned char> big(std::min(len, kMaxLongText));
+                if (!file.readAt(static_cast<std::size_t>(pos), big.data(), big.size())) return false;
+                walk.payload(big.data(), big.size());
+            }
+        }
+        pos += size + (size & 1);
+    }
+    return true;
+}
+
+// The walk over a clip with an index: only the bytes between the indexed
+// pictures and sounds are read, all in one batch. Each read also takes the
+// next indexed chunk's header, which must be what the index says; false (and
+// nothing learnt) when the index and the file disagree.
+bool walkIndexed(const BoundedFile& file, ChunkWalk& walk) {
+    const Layout l = findLayout(file);
+    if (!l.index) return false;
+    std::vector<Indexed> chunks;
+    if (!readIndex(file, l, chunks)) return false;
+
+    struct Gap {
+        std::uint64_t from, to;
+        std::size_t chunk;  // the indexed chunk that ends it; chunks.size() for the list's end
+    };
+    std::vector<Gap> gaps;
+    std::uint64_t pos = l.moviData;
+    for (std::size_t i = 0; i <= chunks.size(); ++i) {
+        const std::uint64_t to = i < chunks.size() ? chunks[i].pos : l.moviEnd;
+        // Every header the gaps end at is checked; the first one always.
+        if (to > pos || i == 0) gaps.push_back({pos, to, i});
+        if (i < chunks.size()) pos = chunks[i].pos + 8 + chunks[i].size + (chunks[i].size & 1);
+    }
+
+    // A gap usually holds a few text chunks, read with the header after them.
+    constexpr std::size_t kHead = 248, kSlot = kHead + 8, kBatch = 448;
+    std::vector<unsigned char> buf(kBatch * kSlot);
+    std::vector<BoundedFile::Piece> pieces;
+    for (std::size_t g0 = 0; g0 < gaps.size() && !walk.raw.full(); g0 += kBatch) {
+        const std::size_t count = std::min(kBatch, gaps.size() - g0);
+        pieces.clear();
+        for (std::size_t k = 0; k < count; ++k) {
+            const Gap& g = gaps[g0 + k];
+            const std::uint64_t want = std::min<std::uint64_t>(g.to - g.from, kHead);
+            const std::uint64_t header = g.chunk < chunks.size() ? 8 : 0;
+            // The bytes of the gap that are read, then the header.
+            const std::uint64_t size = std::min<std::uint64_t>(want, file.size() - g.from);
+            std::uint64_t len = size;
+            if (size == g.to - g.from) len += header;
+            pieces.push_back({static_cast<std::size_t>(g.from), buf.data() + k * kSlot, static_cast<std::size_t>(len)});
+        }
+        if (!file.readPieces(pieces.data(), pieces.size())) return false;
+        for (std::size_t k = 0; k < count && !walk.raw.full(); ++k) {
+            const Gap& g = gaps[g0 + k];
+            const unsigned char* head = buf.data() + k * kSlot;
+            const std::size_t span = static_cast<std::size_t>(g.to - g.from);
+            const std::size_t inBuffer = std::min(pieces[k].size, span);
+            if (g.chunk < chunks.size()) {
+                unsigned char h[8];
+                if (pieces[k].size == span + 8) std::memcpy(h, head + span, 8);
+                else if (!file.readAt(static_cast<std::size_t>(g.to), h, 8)) return false;
+                if (std::memcmp(h, chunks[g.chunk].tag, 4) != 0 || le32(h + 4) != chunks[g.chunk].size) return false;
+            }
+            if (!walkGap(file, g.from, g.to, head, inBuffer, walk)) return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 int readAviChunks(const BoundedFile& file, AviFamily family, OrvoClipData& out) {
@@ -106,6 +273,13 @@ int readAviChunks(const BoundedFile& file, AviFamily family, OrvoClipData& out) 
         return 0;
 
     auto walk = std::make_unique<ChunkWalk>(family);
+    if (walkIndexed(file, *walk)) {
+        if (!walk->raw.full()) walk->second.flushLeftover(walk->held);
+        return walk->raw.finish(out);
+    }
+    if (file.failed()) return 0;
+    // No index, or one that does not fit the file: every header is read.
+    walk = std::make_unique<ChunkWalk>(family);
     auto window = std::make_unique<WindowReader>(file);
     // Lists are descended into by reading on past their type, so the walk is flat.
     std::uint64_t pos = 12;

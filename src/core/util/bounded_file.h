@@ -34,6 +34,18 @@ public:
     // Up to n bytes at offset; how many were copied.
     std::size_t readSome(std::size_t offset, void* dst, std::size_t n) const;
 
+    // One of many reads at offsets known in advance.
+    struct Piece {
+        std::size_t offset;
+        void* dst;
+        std::size_t size;
+    };
+    // Fills every piece, handing the whole batch to the kernel at once where
+    // it can (one system call instead of one per piece: the cost of a walk
+    // over a long clip's small chunks is mostly those calls). False, and
+    // failed(), when any piece lies past size() or the file no longer has it.
+    bool readPieces(Piece* pieces, std::size_t count) const;
+
     bool failed() const { return failed_; }
 
 private:

@@ -40,6 +40,34 @@ struct Avi {
         return chunk(tag, p);
     }
     Avi& nmea(const std::string& text, const std::string& tag = "03tx") { return chunk(tag, text + '\0'); }
+    // The list and file sizes filled in and an idx1 index of every chunk but
+    // the text ones appended, as the card generator's clips have it.
+    std::string indexed() const {
+        std::string out = bytes, index;
+        for (std::size_t p = 24; p + 8 <= out.size();) {
+            const std::uint32_t size = static_cast<std::uint8_t>(out[p + 4]) | static_cast<std::uint8_t>(out[p + 5]) << 8 |
+                                       static_cast<std::uint8_t>(out[p + 6]) << 16 |
+                                       static_cast<std::uint32_t>(static_cast<std::uint8_t>(out[p + 7])) << 24;
+            if (out.compare(p + 2, 2, "tx") != 0) {
+                index += out.substr(p, 4);
+                put32(index, 0x10);
+                put32(index, static_cast<std::uint32_t>(p - 20));
+                put32(index, size);
+            }
+            p += 8 + size + (size & 1);
+        }
+        auto set32 = [&](std::size_t at, std::size_t v) {
+            std::string b;
+            put32(b, static_cast<std::uint32_t>(v));
+            out.replace(at, 4, b);
+        };
+        set32(16, out.size() - 20);
+        out += "idx1";
+        put32(out, static_cast<std::uint32_t>(index.size()));
+        out += index;
+        set32(4, out.size() - 8);
+        return out;
+    }
 };
 
 struct TempDir {

@@ -10,6 +10,7 @@
 #include <random>
 #include <set>
 #include <thread>
+#include <vector>
 #include <unistd.h>
 
 #include "core/telemetry/orvo_clip_data.h"
@@ -26,7 +27,7 @@ namespace {
 
 const std::string kFiller(48 << 10, '\x5a');
 
-std::string aviClip(bool krt) {
+std::string aviClip(bool krt, bool indexed = false) {
     Avi avi;
     for (int s = 0; s < 80; ++s) {
         for (int r = 0; r < 10; ++r) {
@@ -37,7 +38,7 @@ std::string aviClip(bool krt) {
         }
         avi.nmea("$GPRMC,083000,A,3733.67,N,12658.98,E,10.0,,");
     }
-    return avi.bytes;
+    return indexed ? avi.indexed() : avi.bytes;
 }
 
 std::string textRecordClip() {
@@ -93,6 +94,8 @@ std::vector<Case> cases() {
     return {
         {"avi", aviClip(false), avi(false)},
         {"krt", aviClip(true), avi(true)},
+        {"avi indexed", aviClip(false, true), avi(false)},
+        {"krt indexed", aviClip(true, true), avi(true)},
         {"records", textRecordClip(), clip(&OrvoClipData::getM420AllDataFromFile)},
         {"tail", tailClip(), clip(&OrvoClipData::getAllDataFromFileTail)},
         {"srt", srtTrack(70), clip(&OrvoClipData::getM420AllDataFromSrtFile)},
@@ -153,9 +156,21 @@ TEST(CardPulled, AFailedReadSticks) {
     EXPECT_TRUE(f.readAt(100, buf, sizeof buf));
     EXPECT_FALSE(f.readAt(f.size() - 4, buf, sizeof buf));  // past the end: no failure
     EXPECT_FALSE(f.failed());
+    // Batched reads too: all in, anything past the end refused.
+    char many[8][16];
+    std::vector<BoundedFile::Piece> pieces;
+    for (std::size_t i = 0; i < 8; ++i) pieces.push_back({i * 1000, many[i], sizeof many[i]});
+    EXPECT_TRUE(f.readPieces(pieces.data(), pieces.size()));
+    const std::string bytes = aviClip(false);
+    for (std::size_t i = 0; i < 8; ++i) EXPECT_EQ(std::string(many[i], 16), bytes.substr(i * 1000, 16));
+    pieces.push_back({f.size() - 4, buf, sizeof buf});
+    EXPECT_FALSE(f.readPieces(pieces.data(), pieces.size()));
+    EXPECT_FALSE(f.failed());
     ASSERT_EQ(truncate(path.c_str(), 50), 0);
-    EXPECT_FALSE(f.readAt(100, buf, sizeof buf));
+    pieces.pop_back();
+    EXPECT_FALSE(f.readPieces(pieces.data(), pieces.size()));
     EXPECT_TRUE(f.failed());
+    EXPECT_FALSE(f.readAt(100, buf, sizeof buf));
     EXPECT_FALSE(f.open(dir.path.string()));  // a folder
 }
 

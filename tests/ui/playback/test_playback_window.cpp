@@ -1,5 +1,6 @@
 // The whole playback path in the real main window, on a generated card:
-// real ffmpeg conversion, two libmpv players, the dashboard and the map page.
+// the card's own files in two libmpv players (a two-camera AVI split by the
+// real ffmpeg), the dashboard and the map page.
 // Also saving and printing, and clips that must be refused without harm.
 #include <QApplication>
 #include <QJsonArray>
@@ -187,6 +188,9 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
         QVERIFY(alerts_.isEmpty());
         QVERIFY(playback().subtitleData() && !playback().subtitleData()->empty());
+        // The players read the card's files; nothing was copied to open them.
+        QCOMPARE(big()->fileName(), QString::fromStdString((card_ / "cont_rec/20261121_083000_F.mp4").string()));
+        QCOMPARE(small()->fileName(), QString::fromStdString((card_ / "cont_rec/20261121_083000_R.mp4").string()));
         QVERIFY(v.bigMovieCoverImageView->isHidden() && v.smallMovieCoverImageView->isHidden());
         QVERIFY(v.playPauseButton->isEnabled() && v.switchVideoButton->isEnabled());
 
@@ -239,6 +243,10 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(small()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
         playback().pauseVideo();
+        // The second player's ready report may still be on its way: it must
+        // not start the clip again.
+        QTest::qWait(200);
+        QVERIFY(playback().isVideoPaused());
         playback().setCurrentVideoTime(1.0);
         QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - 1.0) < 1e-3, 5000);
         const double t0 = big()->currentTime();

@@ -18,6 +18,8 @@
 #include "core/library/clip_file_check.h"
 #include "core/library/recording_time.h"
 #include "core/library/conversion/clip_converter.h"
+#include "core/media/playable_files.h"
+#include "core/media/subtitle_track.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "ui/app/main_window.h"
@@ -61,13 +63,6 @@ OrvoAVView* playerIn(QWidget* host, const char* name) {
     view->setObjectName(QString::fromLatin1(name));
     layout->addWidget(view);
     return view;
-}
-
-std::string withSrtExtension(const std::string& path) {
-    const std::size_t slash = path.rfind('/');
-    const std::size_t dot = path.rfind('.');
-    const bool hasExtension = dot != std::string::npos && (slash == std::string::npos || dot > slash);
-    return (hasExtension ? path.substr(0, dot) : path) + ".srt";
 }
 
 bool isKrtClipName(const std::string& path) {
@@ -143,9 +138,12 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
         box->setWindowModality(Qt::WindowModal);
         box->open();
     };
-    convert_ = [](const std::string& clip) {
-        // Remuxing copies streams and is quick, but a long clip on a slow card
-        // can take a moment: say so with the pointer.
+    convert_ = [](const std::string& clip) -> std::optional<std::vector<std::string>> {
+        // The players open the card's own files; nothing is copied on the way.
+        PlayableFiles playable = playableFilesOf(clip);
+        if (!playable.needsConversion) return std::move(playable.files);
+        // Splitting a two-camera AVI copies streams and is quick, but a long
+        // clip on a slow card can take a moment: say so with the pointer.
         QApplication::setOverrideCursor(Qt::WaitCursor);
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         auto files = ClipConverter(QFile::encodeName(documents).toStdString()).checkAndConvertVideo(clip);
@@ -219,6 +217,7 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     dashboard_->resetLastPosition();
 
     failureWatch_->disarm();
+    startedThisLoad_ = false;
     // Whatever cannot even be read is refused before anything is started.
     const ClipFileState state = checkClipFile(url);
     if (state == ClipFileState::Missing || state == ClipFileState::Unreadable || state == ClipFileState::Empty)
@@ -256,10 +255,9 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
 
 void PlaybackController::loadTelemetry(const std::string& url) {
     if (isMp4ClipPath(url)) {
-        // The converter wrote the clip's subtitle track beside the first playable file.
-        const std::string srt = withSrtExtension(bigVideoFilePath_);
-        clipData_->loadVideoFileCilpDataFromFilePath(srt);
-        subtitleData_ = SubtitleData::fromPath(srt);
+        // Read from the clip's subtitle track in-process, nothing written.
+        subtitleData_ = std::make_unique<SubtitleData>();
+        SubtitleTrack::load(url, *clipData_, subtitleData_.get());
         dashboard_->setSubtitleData(subtitleData_.get());
     } else if (isKrtClipName(url)) {
         clipData_->loadVideoFileCilpDataFromFilePath_KRT(url);
@@ -312,6 +310,8 @@ void PlaybackController::setCurrentVideoTime(double seconds) {
 }
 
 void PlaybackController::onMovieReady() {
+    if (startedThisLoad_) return;
+    startedThisLoad_ = true;
     playVideo();
     animation_->startPlayAnimation();
 }

@@ -151,6 +151,10 @@ private:
     std::string bigVideoFilePath_;
     std::string smallVideoFilePath_;
     bool isVideoPaused_ = true;
+    // Both players report ready, in either order, and both reports may come
+    // after both are ready: the clip starts once per load, so a pause given
+    // in between is not undone by the second report.
+    bool startedThisLoad_ = false;
 };
 
 }  // namespace tarvik

@@ -28,6 +28,8 @@ const bool kShareContexts = [] {
 }();
 
 enum Observed : uint64_t { TimePos = 1, Duration, Pause, Speed, Direction, Eof, DisplayWidth, DisplayHeight };
+// Replies to seek requests carry ids from here on.
+constexpr uint64_t kFirstSeekReply = 1000;
 
 void* glProcAddress(void*, const char* name) {
     QOpenGLContext* ctx = QOpenGLContext::currentContext();
@@ -91,6 +93,8 @@ MpvPlayer::MpvPlayer(QObject* parent) : QObject(parent) {
         {"vo", "libmpv"},         {"keep-open", "yes"},   {"pause", "yes"},
         {"hr-seek", "yes"},       {"idle", "yes"},        {"audio-fallback-to-null", "yes"},
         {"load-scripts", "no"},   {"ytdl", "no"},         {"osc", "no"},
+        // Nor mpv's other built-in scripts: each would start a Lua state per player.
+        {"load-stats-overlay", "no"}, {"load-osd-console", "no"}, {"load-auto-profiles", "no"},
         {"input-default-bindings", "no"}, {"input-vo-keyboard", "no"}, {"terminal", "no"},
         {"hwdec", "no"},          {"gpu-hwdec-interop", "no"},          {"sub-auto", "no"},     {"audio-file-auto", "no"},
         // The desktop's sound servers, then silence. mpv's own probe would go on to
@@ -173,17 +177,23 @@ void MpvPlayer::onRenderUpdate(void* self) {
     QMetaObject::invokeMethod(static_cast<MpvPlayer*>(self), "renderFrame", Qt::QueuedConnection);
 }
 
-void MpvPlayer::command(std::initializer_list<const char*> args) {
+void MpvPlayer::command(std::initializer_list<const char*> args, uint64_t reply) {
     if (!mpv_) return;
     std::vector<const char*> argv(args);
     argv.push_back(nullptr);
-    mpv_command_async(mpv_, 0, argv.data());
+    mpv_command_async(mpv_, reply, argv.data());
+}
+
+uint64_t MpvPlayer::beginSeek() {
+    seeking_ = true;
+    seekAnswered_ = false;
+    seekReply_ = seekReply_ < kFirstSeekReply ? kFirstSeekReply : seekReply_ + 1;
+    return seekReply_;
 }
 
 void MpvPlayer::load(const QString& path, const QByteArray& localPath) {
     path_ = path;
     loaded_ = hasVideo_ = eof_ = false;
-    seeking_ = true;  // until playback (re)starts at the beginning
     pendingSteps_.clear();
     if (!mpv_) {
         QMetaObject::invokeMethod(this, &MpvPlayer::failed, Qt::QueuedConnection);
@@ -191,7 +201,8 @@ void MpvPlayer::load(const QString& path, const QByteArray& localPath) {
     }
     // The file system's own bytes: a name need not be valid UTF-8.
     const QByteArray local = localPath.isEmpty() ? QFile::encodeName(path) : localPath;
-    command({"loadfile", local.constData(), "replace"});
+    // Until playback starts at the beginning.
+    command({"loadfile", local.constData(), "replace"}, beginSeek());
 }
 
 void MpvPlayer::setRate(float rate) {
@@ -202,9 +213,9 @@ void MpvPlayer::setRate(float rate) {
         double speed = std::fabs(rate);
         const bool backward = rate < 0.0f;
         if (backward != backward_) {
-            seeking_ = true;  // turning round restarts playback at the current time
+            // Turning round restarts playback at the current time.
             const char* dir = backward ? "backward" : "forward";
-            mpv_set_property_async(mpv_, 0, "play-dir", MPV_FORMAT_STRING, &dir);
+            mpv_set_property_async(mpv_, beginSeek(), "play-dir", MPV_FORMAT_STRING, &dir);
         }
         mpv_set_property_async(mpv_, 0, "speed", MPV_FORMAT_DOUBLE, &speed);
     }
@@ -214,8 +225,7 @@ void MpvPlayer::setRate(float rate) {
 void MpvPlayer::seekExact(double seconds) {
     const QByteArray at = QByteArray::number(seconds, 'f', 6);
     eof_ = false;
-    seeking_ = true;
-    command({"seek", at.constData(), "absolute+exact"});
+    command({"seek", at.constData(), "absolute+exact"}, beginSeek());
 }
 
 void MpvPlayer::frameStep() { runStep(Step::Forward); }
@@ -229,8 +239,16 @@ void MpvPlayer::runStep(Step step) {
     if (step == Step::Forward) {
         command({"frame-step"});
     } else {
-        seeking_ = true;  // a step back is a seek to the previous frame
-        command({"frame-back-step"});
+        // A step back is a seek to the previous frame.
+        command({"frame-back-step"}, beginSeek());
+    }
+}
+
+void MpvPlayer::runPendingSteps() {
+    while (mpv_ && !seeking_ && !pendingSteps_.empty()) {
+        const Step next = pendingSteps_.front();
+        pendingSteps_.pop_front();
+        runStep(next);
     }
 }
 
@@ -276,14 +294,21 @@ void MpvPlayer::handleEvent(const mpv_event& e) {
         }
         break;
     }
+    case MPV_EVENT_COMMAND_REPLY:
+    case MPV_EVENT_SET_PROPERTY_REPLY:
+        if (e.reply_userdata != seekReply_ || seekAnswered_) break;
+        seekAnswered_ = true;
+        // A refused request starts no seek: nothing to wait for.
+        if (e.error < 0) {
+            seeking_ = false;
+            runPendingSteps();
+        }
+        break;
     case MPV_EVENT_PLAYBACK_RESTART:
+        if (!seekAnswered_) break;  // an earlier seek's restart
         seeking_ = false;
         emit seeked();
-        while (mpv_ && !seeking_ && !pendingSteps_.empty()) {
-            const Step next = pendingSteps_.front();
-            pendingSteps_.pop_front();
-            runStep(next);
-        }
+        runPendingSteps();
         break;
     case MPV_EVENT_PROPERTY_CHANGE: {
         const auto* p = static_cast<const mpv_event_property*>(e.data);

@@ -75,7 +75,10 @@ private:
     void handleFileLoaded();
     void updateRate();
     bool initGl();
-    void command(std::initializer_list<const char*> args);
+    void command(std::initializer_list<const char*> args, uint64_t reply = 0);
+    // A command or property change that makes mpv seek (load, seek, step
+    // back, turning round): steps wait until its own restart.
+    uint64_t beginSeek();
     static void onWakeup(void* self);
     static void onRenderUpdate(void* self);
 
@@ -88,10 +91,16 @@ private:
 
     QString path_;
     // mpv drops a frame step that arrives while a seek is still decoding
-    // towards its target, so steps wait for the seek to finish.
+    // towards its target, so steps wait for the seek to finish. Restart
+    // events carry no id: one that arrives before mpv has answered the latest
+    // seek request belongs to an earlier seek (the start of the file, say)
+    // and must not release the steps, or they reach mpv mid-seek.
     enum class Step { Forward, Backward };
     void runStep(Step step);
+    void runPendingSteps();
     bool seeking_ = false;
+    uint64_t seekReply_ = 0;  // reply id of the latest seek request
+    bool seekAnswered_ = true;
     std::deque<Step> pendingSteps_;
     bool loaded_ = false;
     bool hasVideo_ = false;

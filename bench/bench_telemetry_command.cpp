@@ -1,0 +1,133 @@
+// `tarvik telemetry` as a whole process on a one-minute MP4 with a telemetry
+// subtitle track, against `exiftool -ee` on the same file and against the same
+// command on a one-minute AVI, all in the same run, runs interleaved.
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "bench_table.h"
+#include "cardgen/card_plan.h"
+
+extern char** environ;
+
+namespace fs = std::filesystem;
+using namespace tarvik;
+
+namespace {
+
+constexpr int kRuns = 7;
+
+struct Timing {
+    double wall = -1;  // seconds
+    double cpu = -1;   // user + system of the child
+};
+
+std::string onPath(const std::string& program) {
+    const char* path = std::getenv("PATH");
+    std::string dirs = path ? path : "/usr/bin:/bin";
+    for (std::size_t a = 0; a <= dirs.size();) {
+        std::size_t b = dirs.find(':', a);
+        if (b == std::string::npos) b = dirs.size();
+        const fs::path p = fs::path(dirs.substr(a, b - a)) / program;
+        if (access(p.c_str(), X_OK) == 0) return p.string();
+        a = b + 1;
+    }
+    return {};
+}
+
+// One run, output to /dev/null; a failed run gives wall -1.
+Timing runOnce(const std::vector<std::string>& argv) {
+    std::vector<char*> args;
+    for (const auto& a : argv) args.push_back(const_cast<char*>(a.c_str()));
+    args.push_back(nullptr);
+    posix_spawn_file_actions_t fa;
+    posix_spawn_file_actions_init(&fa);
+    posix_spawn_file_actions_addopen(&fa, 1, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&fa, 2, "/dev/null", O_WRONLY, 0);
+    const auto t0 = std::chrono::steady_clock::now();
+    pid_t pid;
+    Timing t;
+    if (posix_spawn(&pid, args[0], &fa, nullptr, args.data(), environ) == 0) {
+        int status = 0;
+        rusage ru{};
+        wait4(pid, &status, 0, &ru);
+        if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
+            t.wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
+            t.cpu = ru.ru_utime.tv_sec + ru.ru_utime.tv_usec / 1e6 + ru.ru_stime.tv_sec + ru.ru_stime.tv_usec / 1e6;
+        }
+    }
+    posix_spawn_file_actions_destroy(&fa);
+    return t;
+}
+
+double median(std::vector<double> v) {
+    std::sort(v.begin(), v.end());
+    return v.empty() ? -1 : v[v.size() / 2];
+}
+
+}  // namespace
+
+int main(int, char** argv) {
+    const fs::path root = fs::temp_directory_path() / "tarvik-bench-telemetry-command";
+    const fs::path mp4 = root / "cont_rec/20261121_083000_F.mp4", avi = root / "cont_rec/20261121_083200.avi";
+    if (!fs::exists(mp4) || !fs::exists(avi)) {
+        cardgen::CardOptions o;
+        o.seconds = 60;
+        cardgen::CardPlan plan = cardgen::demoCardPlan(o);
+        std::erase_if(plan.clips, [](const cardgen::ClipPlan& c) {
+            return c.relPath != "cont_rec/20261121_083000_F.mp4" && c.relPath != "cont_rec/20261121_083200.avi";
+        });
+        plan.files.clear();
+        std::string error;
+        if (!cardgen::writeCard(plan, root, &error)) {
+            std::fprintf(stderr, "could not generate the clips: %s\n", error.c_str());
+            return 1;
+        }
+    }
+    const std::string tarvik = (fs::canonical("/proc/self/exe").parent_path().parent_path() / "tarvik").string();
+    const std::string exiftool = onPath("exiftool");
+    (void)argv;
+
+    std::vector<double> wallMp4, wallAvi, wallExif, cpuMp4, cpuAvi, cpuExif;
+    for (int i = 0; i < kRuns; ++i) {
+        const Timing m = runOnce({tarvik, "telemetry", mp4.string()});
+        const Timing a = runOnce({tarvik, "telemetry", avi.string()});
+        if (m.wall < 0 || a.wall < 0) {
+            std::fprintf(stderr, "tarvik telemetry failed\n");
+            return 1;
+        }
+        wallMp4.push_back(m.wall), cpuMp4.push_back(m.cpu);
+        wallAvi.push_back(a.wall), cpuAvi.push_back(a.cpu);
+        if (!exiftool.empty()) {
+            const Timing e = runOnce({exiftool, "-ee", mp4.string()});
+            if (e.wall >= 0) wallExif.push_back(e.wall), cpuExif.push_back(e.cpu);
+        }
+    }
+    std::printf("median of %d runs, wall / CPU ms: tarvik mp4 %.1f / %.1f, tarvik avi %.1f / %.1f", kRuns,
+                median(wallMp4) * 1e3, median(cpuMp4) * 1e3, median(wallAvi) * 1e3, median(cpuAvi) * 1e3);
+    if (!wallExif.empty()) std::printf(", exiftool -ee %.1f / %.1f", median(wallExif) * 1e3, median(cpuExif) * 1e3);
+    std::printf("\n");
+
+    char note[96];
+    if (wallExif.empty()) {
+        bench::tableRow("exiftool -ee / tarvik telemetry, 1 min MP4", -1, ">= 20", false,
+                        "exiftool not found (Debian package libimage-exiftool-perl)");
+    } else {
+        const double ratio = median(wallExif) / median(wallMp4);
+        std::snprintf(note, sizeof note, "wall time; CPU time %.1fx", median(cpuExif) / median(cpuMp4));
+        bench::tableRow("exiftool -ee / tarvik telemetry, 1 min MP4", ratio, ">= 20", ratio >= 20, note);
+    }
+    const double ratio = median(wallMp4) / median(wallAvi);
+    std::snprintf(note, sizeof note, "wall time; CPU time %.2fx", median(cpuMp4) / median(cpuAvi));
+    bench::tableRow("tarvik telemetry 1 min MP4 / 1 min AVI", ratio, "<= 1.5", ratio <= 1.5, note);
+    return 0;
+}

@@ -1,0 +1,38 @@
+#include "core/media/playable_files.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+
+#include "core/library/conversion/clip_converter.h"
+#include "core/media/media_probe.h"
+
+namespace tarvik {
+
+namespace fs = std::filesystem;
+
+PlayableFiles playableFilesOf(const std::string& clipPath) {
+    std::string ext = fs::path(clipPath).extension().string();
+    std::transform(ext.begin(), ext.end(), ext.begin(), [](unsigned char c) { return std::tolower(c); });
+    PlayableFiles out;
+    if (ext != ".avi" && ext != ".mp4") {
+        out.files = {clipPath};
+        return out;
+    }
+    // Headers only: the player would refuse what libavformat cannot open.
+    const int pictures = videoStreamCount(clipPath);
+    if (pictures <= 0) return out;
+    if (pictures >= 2) {
+        out.needsConversion = true;
+        return out;
+    }
+    out.files = {clipPath};
+    if (ext == ".mp4") {
+        const std::string partner = ClipConverter::partnerPathOf(clipPath);
+        std::error_code ec;
+        if (!partner.empty() && fs::is_regular_file(partner, ec)) out.files.push_back(partner);
+    }
+    return out;
+}
+
+}  // namespace tarvik
