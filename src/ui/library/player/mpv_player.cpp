@@ -27,6 +27,8 @@ const bool kShareContexts = [] {
     return true;
 }();
 
+// Marks the reply to a load's duration question, next to its track-list question.
+constexpr uint64_t kDurationReplyTag = uint64_t(1) << 62;
 enum Observed : uint64_t { TimePos = 1, Duration, Pause, Speed, Direction, Eof, DisplayWidth, DisplayHeight };
 // Replies to seek requests carry ids from here on.
 constexpr uint64_t kFirstSeekReply = 1000;
@@ -193,7 +195,7 @@ uint64_t MpvPlayer::beginSeek() {
 
 void MpvPlayer::load(const QString& path, const QByteArray& localPath) {
     path_ = path;
-    loaded_ = hasVideo_ = eof_ = false;
+    loaded_ = hasVideo_ = eof_ = opening_ = false;
     pendingSteps_.clear();
     if (!mpv_) {
         QMetaObject::invokeMethod(this, &MpvPlayer::failed, Qt::QueuedConnection);
@@ -285,6 +287,7 @@ void MpvPlayer::handleEvent(const mpv_event& e) {
     case MPV_EVENT_END_FILE: {
         const auto* end = static_cast<const mpv_event_end_file*>(e.data);
         seeking_ = false;
+        opening_ = false;
         pendingSteps_.clear();
         if (end->reason == MPV_END_FILE_REASON_ERROR || (!loaded_ && end->reason == MPV_END_FILE_REASON_EOF)) {
             loaded_ = false;
@@ -292,6 +295,19 @@ void MpvPlayer::handleEvent(const mpv_event& e) {
         } else if (end->reason == MPV_END_FILE_REASON_EOF) {
             emit endReached();
         }
+        break;
+    }
+    case MPV_EVENT_GET_PROPERTY_REPLY: {
+        // Only the latest load's question counts; a reply to an earlier one is stale.
+        const auto* p = static_cast<const mpv_event_property*>(e.data);
+        if (!opening_) break;
+        if (e.reply_userdata == (trackListReply_ | kDurationReplyTag)) {
+            if (e.error >= 0 && p && p->format == MPV_FORMAT_DOUBLE) duration_ = *static_cast<double*>(p->data);
+            break;
+        }
+        if (e.reply_userdata != trackListReply_) break;
+        handleTrackList(e.error >= 0 && p && p->format == MPV_FORMAT_NODE ? static_cast<const mpv_node*>(p->data)
+                                                                           : nullptr);
         break;
     }
     case MPV_EVENT_COMMAND_REPLY:
@@ -357,16 +373,20 @@ void MpvPlayer::handleEvent(const mpv_event& e) {
 }
 
 void MpvPlayer::handleFileLoaded() {
-    mpv_node tracks;
+    opening_ = true;
+    ++trackListReply_;
+    // Asked first, so answered first: the duration is known when loaded() is sent.
+    mpv_get_property_async(mpv_, trackListReply_ | kDurationReplyTag, "duration", MPV_FORMAT_DOUBLE);
+    mpv_get_property_async(mpv_, trackListReply_, "track-list", MPV_FORMAT_NODE);
+}
+
+void MpvPlayer::handleTrackList(const mpv_node* tracks) {
     bool anyVideo = false;
-    if (mpv_get_property(mpv_, "track-list", MPV_FORMAT_NODE, &tracks) >= 0) {
-        videoSize_ = nodeTrackSize(tracks, &anyVideo);
-        mpv_free_node_contents(&tracks);
-    }
-    double d = 0;
-    if (mpv_get_property(mpv_, "duration", MPV_FORMAT_DOUBLE, &d) >= 0) duration_ = d;
+    if (tracks) videoSize_ = nodeTrackSize(*tracks, &anyVideo);
+    opening_ = false;
     loaded_ = true;
     hasVideo_ = anyVideo;
+    if (frameOwed_) renderFrame();  // the first frame's size may be known only now
     emit loaded(anyVideo);
 }
 
@@ -379,21 +399,26 @@ void MpvPlayer::updateRate() {
 
 void MpvPlayer::renderFrame() {
     if (!render_) return;
-    const bool newFrame = mpv_render_context_update(render_) & MPV_RENDER_UPDATE_FRAME;
-    if (!newFrame && !(fbo_ && fbo_->size() != displaySize_)) return;
-    if (displaySize_.isEmpty()) return;
+    if (mpv_render_context_update(render_) & MPV_RENDER_UPDATE_FRAME) frameOwed_ = true;
+    const QSize size = !displaySize_.isEmpty() ? displaySize_ : videoSize_;
+    const bool resized = fbo_ && !size.isEmpty() && fbo_->size() != size;
+    if (!frameOwed_ && !resized) return;
     ScopedCurrent current(gl_.get(), surface_.get());
     if (!current.ok()) return;
+    // mpv's video thread waits (up to 200 ms) for each new frame to be drawn,
+    // so a frame that comes before its size is known is drawn small at once
+    // and owed again at its size.
+    const QSize drawn = size.isEmpty() ? QSize(16, 16) : size;
     QOpenGLFunctions* f = gl_->functions();
-    if (!fbo_ || fbo_->size() != displaySize_) {
-        fbo_ = std::make_unique<QOpenGLFramebufferObject>(displaySize_);
+    if (!fbo_ || fbo_->size() != drawn) {
+        fbo_ = std::make_unique<QOpenGLFramebufferObject>(drawn);
         // Views are usually smaller than the video: filter when scaling down.
         f->glBindTexture(GL_TEXTURE_2D, fbo_->texture());
         f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
         f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
         f->glBindTexture(GL_TEXTURE_2D, 0);
     }
-    mpv_opengl_fbo target{int(fbo_->handle()), displaySize_.width(), displaySize_.height(), 0};
+    mpv_opengl_fbo target{int(fbo_->handle()), drawn.width(), drawn.height(), 0};
     int flip = 0;
     mpv_render_param params[] = {{MPV_RENDER_PARAM_OPENGL_FBO, &target},
                                  {MPV_RENDER_PARAM_FLIP_Y, &flip},
@@ -401,6 +426,8 @@ void MpvPlayer::renderFrame() {
     mpv_render_context_render(render_, params);
     // The texture is read by the widgets' contexts next.
     f->glFlush();
+    if (size.isEmpty()) return;
+    frameOwed_ = false;
     const bool first = !hasFrame_;
     hasFrame_ = true;
     if (first) emit firstFrameRendered();

@@ -17,6 +17,7 @@ class QOpenGLFramebufferObject;
 struct mpv_handle;
 struct mpv_render_context;
 struct mpv_event;
+struct mpv_node;
 
 namespace tarvik {
 
@@ -73,6 +74,7 @@ private:
     Q_INVOKABLE void renderFrame();
     void handleEvent(const mpv_event& event);
     void handleFileLoaded();
+    void handleTrackList(const mpv_node* tracks);
     void updateRate();
     bool initGl();
     void command(std::initializer_list<const char*> args, uint64_t reply = 0);
@@ -88,6 +90,7 @@ private:
     std::unique_ptr<QOffscreenSurface> surface_;
     std::unique_ptr<QOpenGLFramebufferObject> fbo_;
     bool hasFrame_ = false;
+    bool frameOwed_ = false;  // mpv has a frame not yet drawn at the picture's size
 
     QString path_;
     // mpv drops a frame step that arrives while a seek is still decoding
@@ -103,6 +106,11 @@ private:
     bool seekAnswered_ = true;
     std::deque<Step> pendingSteps_;
     bool loaded_ = false;
+    // The file is open but its track list is still being asked for: mpv's core
+    // answers between its own work, and a synchronous question would stall the
+    // interface, and with it the other player's pictures, until it does.
+    bool opening_ = false;
+    uint64_t trackListReply_ = 0;
     bool hasVideo_ = false;
     bool eof_ = false;
     bool paused_ = true;
