@@ -28,6 +28,12 @@ public:
     Ring(const Ring&) = delete;
     Ring& operator=(const Ring&) = delete;
     io_uring* get() { return ok_ ? &ring_ : nullptr; }
+    // The kernel would not run this ring: drop it, with whatever it still
+    // holds, and read the plain way on this thread from now on.
+    void giveUp() {
+        if (ok_) io_uring_queue_exit(&ring_);
+        ok_ = false;
+    }
 
 private:
     io_uring ring_{};
@@ -40,8 +46,8 @@ int readWithRing(int fd, BoundedFile::Piece* pieces, std::size_t count) {
     thread_local Ring threadRing;
     io_uring* ring = threadRing.get();
     if (!ring) return -1;
-    std::size_t submitted = 0, completed = 0;
-    bool ok = true;
+    std::size_t submitted = 0, sent = 0, completed = 0;  // prepared, taken by the kernel, answered
+    bool ok = true, refused = false;
     while (completed < count) {
         while (submitted < count) {
             io_uring_sqe* sqe = io_uring_get_sqe(ring);
@@ -52,20 +58,22 @@ int readWithRing(int fd, BoundedFile::Piece* pieces, std::size_t count) {
         }
         const int r = io_uring_submit_and_wait(ring, 1);
         if (r < 0 && r != -EINTR) {
-            ok = false;
+            refused = true;  // a kernel or sandbox that sets up rings but will not run them
             break;
         }
+        if (r > 0) sent += static_cast<std::size_t>(r);
         io_uring_cqe* cqe;
         unsigned head, seen = 0;
         io_uring_for_each_cqe(ring, head, cqe) {
             ++seen;
             const BoundedFile::Piece& p = pieces[cqe->user_data];
             if (cqe->res < 0 || static_cast<std::size_t>(cqe->res) != p.size) {
-                // A short read of a regular file is the file's end; the rest
-                // is read the plain way, which tells a retry from a real end.
-                if (cqe->res >= 0 && pread(fd, static_cast<char*>(p.dst) + cqe->res, p.size - cqe->res,
-                                           static_cast<off_t>(p.offset + cqe->res)) ==
-                                         static_cast<ssize_t>(p.size - cqe->res))
+                // What the ring did not read in full (a short read at the
+                // file's end, an operation an older kernel refuses) is read
+                // the plain way, which tells a retry from a real end or error.
+                const std::size_t done = cqe->res > 0 ? static_cast<std::size_t>(cqe->res) : 0;
+                if (pread(fd, static_cast<char*>(p.dst) + done, p.size - done, static_cast<off_t>(p.offset + done)) ==
+                    static_cast<ssize_t>(p.size - done))
                     continue;
                 ok = false;
             }
@@ -75,14 +83,18 @@ int readWithRing(int fd, BoundedFile::Piece* pieces, std::size_t count) {
     }
     // Reads still under way must end before their buffers go, and the ring
     // is left empty for the next caller.
-    while (completed < submitted) {
+    while (completed < sent) {
         io_uring_cqe* cqe;
         if (io_uring_wait_cqe(ring, &cqe) < 0) break;
         io_uring_cqe_seen(ring, cqe);
         ++completed;
     }
     // Prepared but never submitted entries would go out with the next batch.
-    if (submitted < count && io_uring_sq_ready(ring)) io_uring_submit(ring);
+    if (!refused && submitted < count && io_uring_sq_ready(ring)) io_uring_submit(ring);
+    if (refused) {
+        threadRing.giveUp();
+        return -1;
+    }
     return ok ? 1 : 0;
 }
 #endif
