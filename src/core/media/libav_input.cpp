@@ -74,4 +74,9 @@ std::int64_t LibavInput::seek(void* self, std::int64_t offset, int whence) {
     return to;
 }
 
+bool LibavInput::stillWhole() const {
+    struct stat st {};
+    return fd_ >= 0 && ::fstat(fd_, &st) == 0 && st.st_size == size_;
+}
+
 }  // namespace tarvik

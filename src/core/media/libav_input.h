@@ -21,6 +21,9 @@ public:
 
     AVFormatContext* get() const { return ctx_; }
     explicit operator bool() const { return ctx_ != nullptr; }
+    // Whether the file still has the size it had when opened: a clip cut
+    // while it is read ends early, or in zeroed bytes, rather than in an error.
+    bool stillWhole() const;
 
 private:
     static int readPacket(void* self, std::uint8_t* buf, int size);

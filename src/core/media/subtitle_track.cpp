@@ -88,6 +88,7 @@ std::optional<std::string> SubtitleTrack::srtText(const std::string& clipPath) {
         av_packet_unref(pkt);
     }
     av_packet_free(&pkt);
+    if (!in.stillWhole()) return std::nullopt;  // a track cut short while it was read is no track
     return out;
 }
 

@@ -53,6 +53,12 @@ std::size_t BoundedFile::readSome(std::size_t offset, void* dst, std::size_t n) 
     return done;
 }
 
+bool BoundedFile::stillWhole() const {
+    if (fd_ < 0) return true;
+    struct stat st {};
+    return fstat(fd_, &st) == 0 && static_cast<std::size_t>(st.st_size) == size_;
+}
+
 bool BoundedFile::readAt(std::size_t offset, void* dst, std::size_t n) const {
     if (offset > size_ || n > size_ - offset) return false;
     return n == 0 || readSome(offset, dst, n) == n;

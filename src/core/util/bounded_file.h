@@ -47,6 +47,10 @@ public:
     bool readPieces(Piece* pieces, std::size_t count) const;
 
     bool failed() const { return failed_; }
+    // Whether the file still has the size it had when opened. A file cut while
+    // it is read can hand out zeroed bytes instead of a short read (the kernel
+    // clears the cut page while a read copies it), so a reader asks this last.
+    bool stillWhole() const;
 
 private:
     void close();
