@@ -16,7 +16,7 @@ int readFile(const std::string& path, OrvoClipData& out, Reader reader, bool ran
     BoundedFile file;
     if (!file.open(path, random)) return 0;
     const int n = reader(file);
-    if (!file.failed() && file.stillWhole()) return n;
+    if (file.intact()) return n;
     out.setGpsDataCount(0);
     return 0;
 }

@@ -42,7 +42,7 @@ void SubtitleData::loadFromPath(const std::string& path) {
     text::LineReader lines(file, 0, file.size(), "\r\n");
     parse([&](std::string_view& line) { return lines.next(line); });
     // A track cut short while it was read is no track.
-    if (file.failed() || !file.stillWhole()) clear();
+    if (!file.intact()) clear();
 }
 
 void SubtitleData::loadFromText(std::string_view t) {

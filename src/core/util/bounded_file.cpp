@@ -53,7 +53,8 @@ std::size_t BoundedFile::readSome(std::size_t offset, void* dst, std::size_t n) 
     return done;
 }
 
-bool BoundedFile::stillWhole() const {
+bool BoundedFile::intact() const {
+    if (failed_) return false;
     if (fd_ < 0) return true;
     struct stat st {};
     return fstat(fd_, &st) == 0 && static_cast<std::size_t>(st.st_size) == size_;

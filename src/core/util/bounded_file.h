@@ -47,10 +47,11 @@ public:
     bool readPieces(Piece* pieces, std::size_t count) const;
 
     bool failed() const { return failed_; }
-    // Whether the file still has the size it had when opened. A file cut while
-    // it is read can hand out zeroed bytes instead of a short read (the kernel
-    // clears the cut page while a read copies it), so a reader asks this last.
-    bool stillWhole() const;
+    // No read failed and the file still has the size it had when opened: a
+    // reader asks this when it is done. A file cut while it is read can hand
+    // out zeroed bytes instead of a short read (the kernel clears the cut page
+    // while a read copies it), which only the size tells.
+    bool intact() const;
 
 private:
     void close();

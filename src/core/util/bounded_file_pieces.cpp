@@ -89,8 +89,6 @@ int readWithRing(int fd, BoundedFile::Piece* pieces, std::size_t count) {
         io_uring_cqe_seen(ring, cqe);
         ++completed;
     }
-    // Prepared but never submitted entries would go out with the next batch.
-    if (!refused && submitted < count && io_uring_sq_ready(ring)) io_uring_submit(ring);
     if (refused) {
         threadRing.giveUp();
         return -1;
