@@ -43,6 +43,8 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
+using tarvik::bench::median;
+
 constexpr int kRuns = 9;
 // What opening this pair took before the players read the card's files directly.
 constexpr double kEarlierOpenSeconds = 1.24;
@@ -214,11 +216,6 @@ double doubleClickSeconds(MainWindowController& window, int row) {
     playback.bigMovieView()->reset();
     playback.smallMovieView()->reset();
     return framed == 2 ? s : -1;
-}
-
-double median(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
 }
 
 }  // namespace

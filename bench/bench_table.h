@@ -3,11 +3,21 @@
 // appends its rows (tab-separated) to the file named by TARVIK_BENCH_TABLE and
 // prints them as it goes, so a program run by hand shows them too.
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 namespace tarvik::bench {
+
+// The middle value (the upper one of an even count), or -1 for no values:
+// what a moment's stall of a shared machine does not move.
+inline double median(std::vector<double> v) {
+    if (v.empty()) return -1;
+    std::nth_element(v.begin(), v.begin() + static_cast<std::ptrdiff_t>(v.size() / 2), v.end());
+    return v[v.size() / 2];
+}
 
 // `ratio` < 0 means the row could not be measured; `note` then says why.
 inline void tableRow(const std::string& name, double ratio, const std::string& goal, bool met,

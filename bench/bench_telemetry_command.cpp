@@ -24,6 +24,8 @@ using namespace tarvik;
 
 namespace {
 
+using tarvik::bench::median;
+
 constexpr int kRuns = 7;
 
 struct Timing {
@@ -67,11 +69,6 @@ Timing runOnce(const std::vector<std::string>& argv) {
     }
     posix_spawn_file_actions_destroy(&fa);
     return t;
-}
-
-double median(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v.empty() ? -1 : v[v.size() / 2];
 }
 
 }  // namespace

@@ -137,6 +137,32 @@ TEST(ClipData, TextRecords) {
     tarvik::test::put32(longRec, 300);
     longRec += "gsensor,1,2,3" + std::string(287, '\0');
     EXPECT_EQ(d.getM420AllDataFromFile(dir.write("long.avi", longRec).string()), 0);
+
+    // A clip of megabytes that the reader takes in windows: clusters of
+    // records around every 64 KiB mark, so that window ends cut tags and texts
+    // at many points, read as the same records packed together.
+    std::string packed = "RIFF....AVI ", spread = packed;
+    for (int m = 1; m < 64; ++m) {
+        spread.resize((static_cast<std::size_t>(m) << 16) - 200 - m * m % 23, '\0');
+        for (int r = 0; r < 12; ++r) {
+            const std::string c = textChunk(r % 2 ? "03tx" : "02tx", "gsensor," + std::to_string(m * r % 97) + ",-2,1");
+            packed += c;
+            spread += c;
+        }
+        packed += textChunk("02tx", "GPRMC,083000,A,3733.6700,N,12658.9800,E,10.0,90,211126");
+        spread += textChunk("02tx", "GPRMC,083000,A,3733.6700,N,12658.9800,E,10.0,90,211126");
+    }
+    OrvoClipData tight;
+    tight.loadVideoFileCilpDataFromFilePath(dir.write("packed.avi", packed).string());
+    d.loadVideoFileCilpDataFromFilePath(dir.write("spread.avi", spread).string());
+    const int n = tight.clipDataCount();
+    ASSERT_EQ(n, 630);
+    ASSERT_EQ(d.clipDataCount(), n);
+    for (int i = 0; i < n; ++i) {
+        EXPECT_EQ(d.getGx(i), tight.getGx(i)) << i;
+        EXPECT_EQ(d.getGz(i), tight.getGz(i)) << i;
+        EXPECT_EQ(d.getGpsLat(i), tight.getGpsLat(i)) << i;
+    }
 }
 
 TEST(ClipData, SrtCues) {
