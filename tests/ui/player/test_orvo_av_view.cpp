@@ -144,6 +144,18 @@ private slots:
         view.stepBackward();
     }
 
+    void opensIntoAPlayerMadeBeforehand() {
+        // A shown view keeps a player ready: a clip opens into it instead of
+        // waiting for mpv to start, and the next is made once a picture is up.
+        QTRY_COMPARE_WITH_TIMEOUT(big_->findChildren<MpvPlayer*>().size(), 1, kWaitMs);
+        MpvPlayer* spare = big_->findChild<MpvPlayer*>();
+        load(big_, front_);
+        QCOMPARE(big_->player(), spare);
+        QTRY_COMPARE_WITH_TIMEOUT(big_->findChildren<MpvPlayer*>().size(), 2, kWaitMs);
+        big_->reset();
+        QTRY_COMPARE_WITH_TIMEOUT(rec_.lastStatus(big_), OrvoAVViewStatusInit, kWaitMs);
+    }
+
     void loadsPlaysAndTicks() {
         rec_.statuses.clear();
         big_->setFileName(front_);

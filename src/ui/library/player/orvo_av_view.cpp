@@ -88,7 +88,7 @@ void OrvoAVView::prepareAsset() {
     if (status_ == OrvoAVViewStatusLoading) return;
     noVideoView_->hide();
     loadingSpinner_->show();
-    player_ = new MpvPlayer(this);
+    player_ = takePlayer();
     rebuildObservers();
     showPlayer(player_);
     setPictureVisible(false);
@@ -100,6 +100,25 @@ void OrvoAVView::prepareAsset() {
     }
     loadWatchdog_->start(kLoadTimeoutMs);
     player_->load(fileName_, localPath());
+}
+
+MpvPlayer* OrvoAVView::takePlayer() {
+    MpvPlayer* p = spare_ ? spare_ : new MpvPlayer(this);
+    spare_ = nullptr;
+    return p;
+}
+
+// Starting a player costs the interface thread several milliseconds per view,
+// paid when the pictures are up rather than while a clip is opening.
+void OrvoAVView::keepSpareIn(int ms) {
+    QTimer::singleShot(ms, this, [this] {
+        if (!spare_) spare_ = new MpvPlayer(this);
+    });
+}
+
+void OrvoAVView::showEvent(QShowEvent* event) {
+    VideoSurface::showEvent(event);
+    if (!spare_) keepSpareIn(0);
 }
 
 void OrvoAVView::setUpPlaybackOfAsset(bool hasVideo) {
@@ -140,6 +159,8 @@ void OrvoAVView::rebuildObservers() {
         stopLoadingAnimationAndHandleError(false);
         setPictureVisible(true);
         emit firstFrameShown();
+        // Later than this view's first frame: the other view may still be opening.
+        keepSpareIn(100);
     });
     lastTick_ = -1;
 }

@@ -93,8 +93,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void open(const QString& name, const QByteArray& localPath);
+    MpvPlayer* takePlayer();
+    void keepSpareIn(int ms);
     void prepareAsset();
     void setUpPlaybackOfAsset(bool hasVideo);
     void rebuildObservers();
@@ -114,6 +119,9 @@ private:
     QString fileName_;
     QByteArray localPath_;  // empty when the name is the path
     MpvPlayer* player_ = nullptr;
+    // A player made while nothing was opening, so that the next clip does not
+    // wait for mpv and its OpenGL context to start.
+    MpvPlayer* spare_ = nullptr;
     QList<QMetaObject::Connection> observers_;
     long long lastTick_ = -1;
     float requestedRate_ = 0.0f;
