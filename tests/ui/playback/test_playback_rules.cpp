@@ -16,6 +16,7 @@
 #include "cardgen/telemetry_encoders.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
+#include "ui/library/playback/after_first_pictures.h"
 #include "ui/library/playback/clip_navigation.h"
 #include "ui/library/playback/clip_saver.h"
 #include "ui/library/playback/dashboard_updater.h"
@@ -24,6 +25,7 @@
 #include "ui/library/playback/volume_controller.h"
 #include "ui/library/playback/zoom_controller.h"
 #include "ui/telemetry/map_controller.h"
+#include "ui/library/player/orvo_av_view.h"
 #include "ui/telemetry/speed_meter_view.h"
 
 using namespace tarvik;
@@ -75,6 +77,32 @@ OrvoClipData rampClip(int samples) {
 class PlaybackRulesTest : public QObject {
     Q_OBJECT
 private slots:
+    void heldBackWorkWaitsForEveryPictureOrTheDeadline() {
+        OrvoAVView front, rear;
+        AfterFirstPictures after;
+        int ran = 0, replaced = 0;
+        after.run({&front, &rear}, [&] { ++ran; }, 60000);
+        emit front.firstFrameShown();
+        emit front.firstFrameShown();  // one view twice is still one picture
+        QCOMPARE(ran, 0);
+        emit rear.firstFrameShown();
+        emit rear.firstFrameShown();
+        QCOMPARE(ran, 1);
+        // Newer work replaces older; cancelled work never runs.
+        after.run({&front}, [&] { ++replaced; }, 60000);
+        after.run({&front}, [&] { ++ran; }, 60000);
+        emit front.firstFrameShown();
+        QCOMPARE(replaced, 0);
+        QCOMPARE(ran, 2);
+        after.run({&front}, [&] { ++ran; }, 60000);
+        after.cancel();
+        emit front.firstFrameShown();
+        QCOMPARE(ran, 2);
+        // A picture that never comes: the deadline runs it.
+        after.run({&rear}, [&] { ++ran; }, 10);
+        QTRY_COMPARE(ran, 3);
+    }
+
     void nextAndPreviousTreatPairsAsOneRecording() {
         const std::vector<std::string> list = {"/c/A_F.mp4", "/c/A_R.mp4", "/c/B_F.mp4", "/c/B_R.mp4", "/c/C.avi"};
         QCOMPARE(nextClipRow(list, 0), 2);   // skips its own rear file

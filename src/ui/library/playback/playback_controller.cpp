@@ -26,6 +26,7 @@
 #include "ui/app/main_window_views.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
+#include "ui/library/playback/after_first_pictures.h"
 #include "ui/library/playback/clip_failure_watch.h"
 #include "ui/library/playback/clip_navigation.h"
 #include "ui/library/playback/clip_saver.h"
@@ -55,6 +56,9 @@ private:
 };
 
 namespace {
+
+// A clip whose picture never comes still gets its route.
+constexpr int kRouteDeadlineMs = 1500;
 
 OrvoAVView* playerIn(QWidget* host, const char* name) {
     auto* layout = new QVBoxLayout(host);
@@ -125,6 +129,7 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
     saving.transport = this;
     saver_ = new ClipSaver(std::move(saving), this);
     failureWatch_ = new ClipFailureWatch(bigMovieView_, this);
+    afterPictures_ = new AfterFirstPictures(this);
     connect(failureWatch_, &ClipFailureWatch::failed, this, [this] {
         refuseClip(currentVideoUrl_, checkClipFile(currentVideoUrl_));
     });
@@ -243,10 +248,14 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
 
     loadTelemetry(url);
     widgets_->gravityGraphView->setClipData(*clipData_);
+    afterPictures_->cancel();
     if (widgets_->mapController) widgets_->mapController->removeMapLine();
     if (clipData_->gpsDataCount() != 0) {
         v_.gpsImageView->show();
-        if (widgets_->mapController) widgets_->mapController->addRoute(*clipData_);
+        if (widgets_->mapController)
+            afterPictures_->run(files->size() >= 2 ? QList<OrvoAVView*>{bigMovieView_, smallMovieView_}
+                                                   : QList<OrvoAVView*>{bigMovieView_},
+                                [this] { widgets_->mapController->addRoute(*clipData_); }, kRouteDeadlineMs);
     } else {
         v_.gpsImageView->hide();
     }

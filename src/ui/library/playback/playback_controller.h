@@ -20,6 +20,7 @@ namespace tarvik {
 
 struct MainWindowViews;
 class ClipCatalogue;
+class AfterFirstPictures;
 class ClipFailureWatch;
 enum class ClipFileState;
 class ClipSaver;
@@ -145,6 +146,7 @@ private:
     PlayAnimation* animation_;
     ClipSaver* saver_;
     ClipFailureWatch* failureWatch_;
+    AfterFirstPictures* afterPictures_;
     AlertPresenter alert_;
     VideoConverter convert_;
     std::string currentVideoUrl_;
