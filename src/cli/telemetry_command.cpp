@@ -14,6 +14,7 @@ extern "C" {
 
 #include "cli/commands.h"
 #include "core/media/subtitle_track.h"
+#include "core/telemetry/krt_clip_name.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/route_exporter.h"
 
@@ -26,14 +27,6 @@ namespace {
 std::string lower(std::string s) {
     for (char& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return s;
-}
-
-// The KRT family's clip names; their telemetry needs that family's reader.
-bool isKrtClipName(const std::string& name) {
-    if (name.size() < 4 || name.compare(name.size() - 4, 4, ".avi") != 0) return false;
-    for (const char* p : {"Rec_", "Event_", "Park_", "Manual_"})
-        if (name.rfind(p, 0) == 0) return true;
-    return false;
 }
 
 int usage() {

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/telemetry/krt_clip_name.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "test_bytes.h"
 
@@ -200,6 +201,11 @@ TEST(ClipData, SrtCues) {
 }
 
 TEST(ClipData, KrtChunks) {
+    // Which clips the family's reader takes: the cameras' own spelling only.
+    EXPECT_TRUE(isKrtClipName("Event_20261121_083000.avi"));
+    EXPECT_TRUE(isKrtClipName("Manual_1.avi"));
+    for (const char* other : {"Event_1.AVI", "rec_1.avi", "X_Rec_1.avi", "Rec_1.avi.mp4", "Park_", ".avi"})
+        EXPECT_FALSE(isKrtClipName(other)) << other;
     Avi avi;
     std::string ok = "M";
     ok += static_cast<char>(128);  // 128 * 10 - 1280 = 0

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "core/telemetry/krt_clip_name.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/util/process_runner.h"
 
@@ -43,16 +44,6 @@ bool loadFromSubtitleTrack(const fs::path& clip, OrvoClipData& data) {
 }
 
 }  // namespace
-
-bool isKrtClipName(const std::string& name) {
-    if (name.size() < 4) return false;
-    std::string ext = name.substr(name.size() - 4);
-    for (char& c : ext) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    if (ext != ".avi") return false;
-    for (const char* p : {"Rec_", "Event_", "Park_", "Manual_"})
-        if (name.rfind(p, 0) == 0) return true;
-    return false;
-}
 
 bool loadClipTelemetry(const std::string& path, OrvoClipData& data) {
     const fs::path clip = path;

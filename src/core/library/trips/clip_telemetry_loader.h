@@ -9,8 +9,6 @@ namespace tarvik {
 
 class OrvoClipData;
 
-bool isKrtClipName(const std::string& fileName);
-
 // Fills data; false only when ffmpeg was needed and could not be run.
 // $TARVIK_FFMPEG names the ffmpeg to use.
 bool loadClipTelemetry(const std::string& path, OrvoClipData& data);

@@ -26,6 +26,7 @@
 #include "ui/app/main_window_views.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
+#include "core/telemetry/krt_clip_name.h"
 #include "ui/library/playback/after_first_pictures.h"
 #include "ui/library/playback/clip_failure_watch.h"
 #include "ui/library/playback/clip_navigation.h"
@@ -67,14 +68,6 @@ OrvoAVView* playerIn(QWidget* host, const char* name) {
     view->setObjectName(QString::fromLatin1(name));
     layout->addWidget(view);
     return view;
-}
-
-bool isKrtClipName(const std::string& path) {
-    const std::string name(ClipCatalogue::fileName(path));
-    if (name.size() < 4 || name.compare(name.size() - 4, 4, ".avi") != 0) return false;
-    for (const char* prefix : {"Rec_", "Event_", "Park_", "Manual_"})
-        if (name.rfind(prefix, 0) == 0) return true;
-    return false;
 }
 
 }  // namespace
@@ -268,7 +261,7 @@ void PlaybackController::loadTelemetry(const std::string& url) {
         subtitleData_ = std::make_unique<SubtitleData>();
         SubtitleTrack::load(url, *clipData_, subtitleData_.get());
         dashboard_->setSubtitleData(subtitleData_.get());
-    } else if (isKrtClipName(url)) {
+    } else if (isKrtClipName(ClipCatalogue::fileName(url))) {
         clipData_->loadVideoFileCilpDataFromFilePath_KRT(url);
     } else {
         clipData_->loadVideoFileCilpDataFromFilePath(url);
