@@ -1,7 +1,7 @@
 #pragma once
 // Reads a clip's telemetry whatever layout its camera uses, as the player
-// would: an MP4/MOV's subtitle track (or the .srt the converter left beside
-// it), a KRT clip by its own reader, anything else by the general readers.
+// would: an MP4/MOV's subtitle track (read in-process), a KRT clip by its
+// own reader, anything else by the general readers.
 
 #include <string>
 
@@ -9,8 +9,7 @@ namespace tarvik {
 
 class OrvoClipData;
 
-// Fills data; false only when ffmpeg was needed and could not be run.
-// $TARVIK_FFMPEG names the ffmpeg to use.
-bool loadClipTelemetry(const std::string& path, OrvoClipData& data);
+// Fills data; empty when the clip holds no telemetry or cannot be read.
+void loadClipTelemetry(const std::string& path, OrvoClipData& data);
 
 }  // namespace tarvik
