@@ -149,7 +149,7 @@ private:
         p.mpv = mpv_create();
         for (const auto& [k, v] : {std::pair{"vo", "libmpv"}, {"pause", "yes"}, {"hwdec", "no"}, {"idle", "yes"},
                                    {"ao", "pipewire,pulse,alsa,null"}, {"audio-fallback-to-null", "yes"},
-                                   {"load-scripts", "no"}, {"ytdl", "no"}, {"terminal", "no"}})
+                                   {"load-scripts", "no"}, {"ytdl", "no"}, {"terminal", "no"}, {"sid", "no"}})
             mpv_set_option_string(p.mpv, k, v);
         if (mpv_initialize(p.mpv) < 0) return false;
         p.gl = std::make_unique<QOpenGLContext>();

@@ -101,9 +101,12 @@ private slots:
         rear_ = make("rear.mp4", with({"-f", "lavfi", "-i", "smptebars=s=352x208:r=25:d=4"}));
         // Green top left, red top right, blue below: shows which way up and
         // which way round the picture is drawn.
+        // It carries a subtitle track, as the cameras' telemetry comes.
+        std::ofstream(path("halves.srt").toStdString()) << "1\n00:00:00,000 --> 00:00:02,000\nWWWWWWWWWWWWWWWWWWWW\n\n";
         halves_ = make("halves.mp4", with({"-f", "lavfi", "-i", "color=c=red:s=320x180:r=25:d=2,"
                                                                   "drawbox=y=90:h=90:c=blue:t=fill,"
-                                                                  "drawbox=w=160:h=90:c=green:t=fill"}));
+                                                                  "drawbox=w=160:h=90:c=green:t=fill",
+                                           "-i", path("halves.srt").toStdString(), "-c:s", "mov_text"}));
         audioOnly_ = make("sound.mp4", {"-f", "lavfi", "-i", "sine=d=2", "-c:a", "aac"});
         brokenAvi_ = make("broken.avi", with({"-f", "lavfi", "-i", "testsrc2=s=352x208:r=25:d=2"}));
         QVERIFY(!front_.isEmpty() && !rear_.isEmpty() && !halves_.isEmpty() && !audioOnly_.isEmpty());
@@ -276,6 +279,13 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(grab(big_).pixelColor(cx + 40, cy - 20).red() > 150, kWaitMs);
         QVERIFY(grab(big_).pixelColor(cx - 40, cy - 20).green() > 100);
         QVERIFY(grab(big_).pixelColor(cx, cy + 20).blue() > 150);
+        // The telemetry track is the dashboard's, never text over the picture.
+        const QImage shown = grab(big_);
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x) {
+                const QColor c = shown.pixelColor(x, y);
+                QVERIFY2(c.red() < 200 || c.green() < 200, qPrintable(QString("light pixel at %1,%2").arg(x).arg(y)));
+            }
         // Upside down is half a turn (a camera mounted the other way up), not a mirror.
         big_->setUpsideDown(true);
         const QImage turned = grab(big_);

@@ -99,6 +99,9 @@ MpvPlayer::MpvPlayer(QObject* parent) : QObject(parent) {
         {"load-stats-overlay", "no"}, {"load-osd-console", "no"}, {"load-auto-profiles", "no"},
         {"input-default-bindings", "no"}, {"input-vo-keyboard", "no"}, {"terminal", "no"},
         {"hwdec", "no"},          {"gpu-hwdec-interop", "no"},          {"sub-auto", "no"},     {"audio-file-auto", "no"},
+        // A clip's subtitle track is its telemetry, shown by the dashboard,
+        // never as text over the picture.
+        {"sid", "no"},
         // The desktop's sound servers, then silence. mpv's own probe would go on to
         // SDL, whose audio layer crashes in a session without a sound device.
         {"ao", "pipewire,pulse,alsa,null"},
