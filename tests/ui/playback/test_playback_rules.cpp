@@ -17,6 +17,7 @@
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "ui/library/playback/after_first_pictures.h"
+#include "ui/library/playback/telemetry_loader.h"
 #include "ui/library/playback/clip_navigation.h"
 #include "ui/library/playback/clip_saver.h"
 #include "ui/library/playback/dashboard_updater.h"
@@ -77,6 +78,38 @@ OrvoClipData rampClip(int samples) {
 class PlaybackRulesTest : public QObject {
     Q_OBJECT
 private slots:
+    void onlyTheLatestTelemetryReadIsDelivered() {
+        QTemporaryDir dir;
+        // Ten readings a second with a position: every sample's X is `x`.
+        auto track = [&dir](const char* name, int x) {
+            std::string srt;
+            for (int i = 0; i < 10; ++i)
+                srt += std::to_string(i + 1) + "\n00:00:00," + std::to_string(i) + "00 --> 00:00:01,000\ngsensori,1,128," +
+                       std::to_string(x) + ",0,128" + (i == 9 ? ";GPRMC,083000,A,4807.038,N,01131.000,E,5.4,," : "") + "\n\n";
+            const QString path = dir.filePath(name);
+            QFile f(path);
+            f.open(QIODevice::WriteOnly);
+            f.write(srt.data(), static_cast<qint64>(srt.size()));
+            return path.toStdString();
+        };
+        const std::string first = track("a.srt", 11), second = track("b.srt", 22);
+        TelemetryLoader loader;
+        QSignalSpy delivered(&loader, &TelemetryLoader::loaded);
+        loader.load(first);
+        loader.load(second);  // the clip changed before the first read was in
+        QTRY_COMPARE(delivered.size(), 1);
+        auto t = delivered.first().first().value<std::shared_ptr<LoadedTelemetry>>();
+        QCOMPARE(t->clip.clipDataCount(), 10);
+        QCOMPARE(t->clip.getGx(0), 22);
+        QCOMPARE(t->clip.gpsDataCount(), 10);
+        QTest::qWait(100);
+        QCOMPARE(delivered.size(), 1);
+        loader.load(first);
+        loader.cancel();  // the clip was refused or another began
+        QTest::qWait(200);
+        QCOMPARE(delivered.size(), 1);
+    }
+
     void heldBackWorkWaitsForEveryPictureOrTheDeadline() {
         OrvoAVView front, rear;
         AfterFirstPictures after;

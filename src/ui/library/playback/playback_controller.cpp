@@ -19,15 +19,14 @@
 #include "core/library/recording_time.h"
 #include "core/library/conversion/clip_converter.h"
 #include "core/media/playable_files.h"
-#include "core/media/subtitle_track.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "ui/app/main_window.h"
 #include "ui/app/main_window_views.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
-#include "core/telemetry/krt_clip_name.h"
 #include "ui/library/playback/after_first_pictures.h"
+#include "ui/library/playback/telemetry_loader.h"
 #include "ui/library/playback/clip_failure_watch.h"
 #include "ui/library/playback/clip_navigation.h"
 #include "ui/library/playback/clip_saver.h"
@@ -123,6 +122,8 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
     saver_ = new ClipSaver(std::move(saving), this);
     failureWatch_ = new ClipFailureWatch(bigMovieView_, this);
     afterPictures_ = new AfterFirstPictures(this);
+    telemetry_ = new TelemetryLoader(this);
+    connect(telemetry_, &TelemetryLoader::loaded, this, &PlaybackController::showTelemetry);
     connect(failureWatch_, &ClipFailureWatch::failed, this, [this] {
         refuseClip(currentVideoUrl_, checkClipFile(currentVideoUrl_));
     });
@@ -210,8 +211,7 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     smallMovieView_->reset();
     bigVideoFilePath_.clear();
     smallVideoFilePath_.clear();
-    subtitleData_.reset();
-    dashboard_->setSubtitleData(nullptr);
+    clearTelemetry();
     dashboard_->resetLastPosition();
 
     failureWatch_->disarm();
@@ -239,33 +239,35 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     }
     if (isMp4ClipPath(url)) catalogue_.setVideoSwitched(false);
 
-    loadTelemetry(url);
-    widgets_->gravityGraphView->setClipData(*clipData_);
-    afterPictures_->cancel();
-    if (widgets_->mapController) widgets_->mapController->removeMapLine();
-    if (clipData_->gpsDataCount() != 0) {
-        v_.gpsImageView->show();
-        if (widgets_->mapController)
-            afterPictures_->run(files->size() >= 2 ? QList<OrvoAVView*>{bigMovieView_, smallMovieView_}
-                                                   : QList<OrvoAVView*>{bigMovieView_},
-                                [this] { widgets_->mapController->addRoute(*clipData_); }, kRouteDeadlineMs);
-    } else {
-        v_.gpsImageView->hide();
-    }
+    pictureViews_ = files->size() >= 2 ? QList<OrvoAVView*>{bigMovieView_, smallMovieView_}
+                                       : QList<OrvoAVView*>{bigMovieView_};
+    telemetry_->load(url);
     emit movieViewCoversNeedUpdate();
 }
 
-void PlaybackController::loadTelemetry(const std::string& url) {
-    if (isMp4ClipPath(url)) {
-        // Read from the clip's subtitle track in-process, nothing written.
-        subtitleData_ = std::make_unique<SubtitleData>();
-        SubtitleTrack::load(url, *clipData_, subtitleData_.get());
-        dashboard_->setSubtitleData(subtitleData_.get());
-    } else if (isKrtClipName(ClipCatalogue::fileName(url))) {
-        clipData_->loadVideoFileCilpDataFromFilePath_KRT(url);
-    } else {
-        clipData_->loadVideoFileCilpDataFromFilePath(url);
+void PlaybackController::clearTelemetry() {
+    telemetry_->cancel();
+    afterPictures_->cancel();
+    *clipData_ = OrvoClipData();
+    subtitleData_.reset();
+    dashboard_->setSubtitleData(nullptr);
+    widgets_->gravityGraphView->setClipData(*clipData_);
+    if (widgets_->mapController) widgets_->mapController->removeMapLine();
+    v_.gpsImageView->hide();
+}
+
+void PlaybackController::showTelemetry(const std::shared_ptr<LoadedTelemetry>& t) {
+    *clipData_ = t->clip;
+    subtitleData_ = std::move(t->track);
+    dashboard_->setSubtitleData(subtitleData_.get());
+    widgets_->gravityGraphView->setClipData(*clipData_);
+    if (clipData_->gpsDataCount() != 0) {
+        v_.gpsImageView->show();
+        if (widgets_->mapController)
+            afterPictures_->run(pictureViews_, [this] { widgets_->mapController->addRoute(*clipData_); },
+                                kRouteDeadlineMs);
     }
+    emit telemetryLoaded();
 }
 
 void PlaybackController::setPlayPauseImages(const char* image) {

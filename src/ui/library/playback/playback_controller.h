@@ -5,6 +5,7 @@
 // slider, play animation and saving each live in a helper of their own; this
 // class loads clips and ties the helpers to the players and buttons.
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <functional>
@@ -21,6 +22,8 @@ namespace tarvik {
 struct MainWindowViews;
 class ClipCatalogue;
 class AfterFirstPictures;
+class TelemetryLoader;
+struct LoadedTelemetry;
 class ClipFailureWatch;
 enum class ClipFileState;
 class ClipSaver;
@@ -113,12 +116,15 @@ signals:
     void movieViewCoversNeedUpdate();
     // The clip that plays changed (the file system's bytes; empty for none).
     void playingClipChanged(const QByteArray& clip);
+    // The playing clip's telemetry is in (read off the interface thread).
+    void telemetryLoaded();
 
 private:
     class BigPlayerClock;
 
     void connectButtons();
-    void loadTelemetry(const std::string& url);
+    void clearTelemetry();
+    void showTelemetry(const std::shared_ptr<LoadedTelemetry>& telemetry);
     void setPlayPauseImages(const char* image);
     int selectedRow() const;
     int actedOnRow() const;
@@ -147,6 +153,9 @@ private:
     ClipSaver* saver_;
     ClipFailureWatch* failureWatch_;
     AfterFirstPictures* afterPictures_;
+    TelemetryLoader* telemetry_;
+    // The views whose first pictures the route waits for.
+    QList<OrvoAVView*> pictureViews_;
     AlertPresenter alert_;
     VideoConverter convert_;
     std::string currentVideoUrl_;

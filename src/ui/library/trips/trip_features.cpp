@@ -45,6 +45,8 @@ TripFeatures::TripFeatures(QTableView* clipList, ClipCatalogue& catalogue, Playb
     connect(&playback, &PlaybackController::movieViewCoversNeedUpdate, this, [this] {
         if (playback_.currentVideoUrl() != shownClip_) clipPrepared();
     });
+    // The clip's telemetry comes in a moment later: its event ticks with it.
+    connect(&playback, &PlaybackController::telemetryLoaded, this, [this] { events_->refresh(shownLength_); });
     auto* poll = new QTimer(this);
     poll->setInterval(200);
     connect(poll, &QTimer::timeout, this, [this] {
@@ -93,9 +95,9 @@ void TripFeatures::clipPrepared() {
         trip_ = trip;
         route_.clear();
         if (map) map->run(QStringLiteral("clearTrip()"));
-        // One clip alone is already drawn by the dashboard. A trip of MP4
-        // clips costs an ffmpeg run a clip, so the route is read off the
-        // interface thread and drawn when it is in.
+        // One clip alone is already drawn by the dashboard. A trip's clips
+        // are each read whole, so the route is read off the interface
+        // thread and drawn when it is in.
         if (trip_.clips.size() > 1) {
             const int generation = ++routeGeneration_;
             QPointer<TripFeatures> self(this);
