@@ -40,6 +40,7 @@
 #include "ui/library/playback/dashboard_widgets.h"
 #include "ui/library/playback/fullscreen_control_bar.h"
 #include "ui/library/playback/fullscreen_controller.h"
+#include "ui/library/playback/after_first_pictures.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/save_dialogs.h"
 #include "ui/library/playback/seek_slider_controller.h"
@@ -187,7 +188,14 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(small()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
         QVERIFY(alerts_.isEmpty());
-        QVERIFY(playback().subtitleData() && !playback().subtitleData()->empty());
+        QTRY_VERIFY_WITH_TIMEOUT(playback().subtitleData() && !playback().subtitleData()->empty(), 5000);
+        // Work held back for the first pictures (the route) runs at once when
+        // they are already up, as they may be when the telemetry comes in.
+        QTRY_VERIFY_WITH_TIMEOUT(big()->showsPicture() && small()->showsPicture(), 5000);
+        AfterFirstPictures after;
+        bool ran = false;
+        after.run({big(), small()}, [&] { ran = true; }, 60000);
+        QVERIFY(ran);
         // The players read the card's files; nothing was copied to open them.
         QCOMPARE(big()->fileName(), QString::fromStdString((card_ / "cont_rec/20261121_083000_F.mp4").string()));
         QCOMPARE(small()->fileName(), QString::fromStdString((card_ / "cont_rec/20261121_083000_R.mp4").string()));

@@ -13,7 +13,7 @@ void AfterFirstPictures::run(const QList<OrvoAVView*>& views, std::function<void
     cancel();
     work_ = std::move(work);
     for (OrvoAVView* v : views) {
-        if (!v) continue;
+        if (!v || v->showsPicture()) continue;
         waiting_ << v;
         connections_ << connect(v, &OrvoAVView::firstFrameShown, this, [this, v] { pictureShown(v); });
     }

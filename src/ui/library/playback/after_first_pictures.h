@@ -20,8 +20,9 @@ class AfterFirstPictures : public QObject {
 public:
     explicit AfterFirstPictures(QObject* parent = nullptr);
 
-    // Runs `work` once each of `views` has shown a picture, at the latest
-    // after `deadlineMs`. Replaces work given before and not yet run.
+    // Runs `work` once each of `views` has shown a picture (at once when all
+    // already show one: the telemetry may come in after the pictures), at the
+    // latest after `deadlineMs`. Replaces work given before and not yet run.
     void run(const QList<OrvoAVView*>& views, std::function<void()> work, int deadlineMs);
     // Drops the work not yet run.
     void cancel();

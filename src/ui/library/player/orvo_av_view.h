@@ -34,6 +34,8 @@ public:
 
     OrvoAVViewStatus status() const { return status_; }
     float rate() const { return rate_; }
+    // The loaded clip's first picture is up.
+    bool showsPicture() const { return pictureVisible(); }
     QString fileName() const { return fileName_; }
     QUrl fileURL() const;
     bool hasMovie() const;
