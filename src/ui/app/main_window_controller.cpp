@@ -75,7 +75,7 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
             &MainWindowController::updateMovieViewCoverScrren);
     connect(playback_, &PlaybackController::playingClipChanged, catalogue_, &CatalogueController::setPlayingClip);
     connect(card_, &CardController::pauseVideoRequested, playback_, &PlaybackController::pauseVideo);
-    connect(card_, &CardController::releaseCardRequested, playback_, &PlaybackController::stopVideo,
+    connect(card_, &CardController::releaseCardRequested, playback_, &PlaybackController::releaseCard,
             Qt::DirectConnection);
     new KeyTableRouter(window, v_.fileListTableView, [this] { catalogue_->videoFileListDoubleClicked(); }, this);
     // ---- end of playback ----

@@ -426,6 +426,27 @@ private slots:
         playback().zoom().resetVideoScaleButtonTouched();
     }
 
+    void releasingTheCardLeavesNoFileOfItOpen() {
+        // Formatting unmounts the card, which fails while a file on it is open.
+        const std::string card = fs::canonical(card_).string() + "/";
+        auto openOnCard = [&card] {
+            QStringList open;
+            for (const auto& fd : fs::directory_iterator("/proc/self/fd")) {
+                std::error_code ec;
+                const std::string target = fs::read_symlink(fd.path(), ec).string();
+                if (!ec && target.rfind(card, 0) == 0) open << QString::fromStdString(target);
+            }
+            return open;
+        };
+        doubleClick(rowOf("20261121_083000_F.mp4"));
+        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
+        QVERIFY(!openOnCard().isEmpty());  // the players read the card's own files
+        playback().releaseCard();
+        QCOMPARE(openOnCard(), QStringList());
+        QVERIFY(playback().currentVideoUrl().empty() && !big()->hasMovie());
+        QVERIFY(alerts_.isEmpty());
+    }
+
     void everyUnplayableClipEndsInOneAlert() {
         // Each clip that cannot be shown ends in exactly one alert within five
         // seconds, with wording that fits; a non-UTF-8 name is no reason to fail.

@@ -11,6 +11,7 @@
 #include <QSlider>
 #include <QStandardPaths>
 #include <QTableView>
+#include <QThreadPool>
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
@@ -59,6 +60,7 @@ namespace {
 
 // A clip whose picture never comes still gets its route.
 constexpr int kRouteDeadlineMs = 1500;
+constexpr int kPlayerEndWaitMs = 3000;
 
 OrvoAVView* playerIn(QWidget* host, const char* name) {
     auto* layout = new QVBoxLayout(host);
@@ -329,6 +331,20 @@ void PlaybackController::movieDidEnd() {
 void PlaybackController::setPlayingClip(const std::string& url) {
     currentVideoUrl_ = url;
     emit playingClipChanged(QByteArray::fromStdString(url));
+}
+
+void PlaybackController::releaseCard() {
+    stopVideo();
+    failureWatch_->disarm();
+    clearTelemetry();
+    bigMovieView_->reset();
+    smallMovieView_->reset();
+    setPlayingClip({});
+    emit movieViewCoversNeedUpdate();
+    telemetry_->waitForRead();
+    // Players end on the pool's threads; a demuxer stuck on a dying card
+    // must not hang the window, so the wait is bounded.
+    QThreadPool::globalInstance()->waitForDone(kPlayerEndWaitMs);
 }
 
 void PlaybackController::refuseClip(const std::string& url, ClipFileState state) {

@@ -83,6 +83,9 @@ public:
     void playVideo() override;
     void pauseVideo() override;
     void stopVideo();
+    // The card is about to be formatted or ejected: the clip is closed, and
+    // nothing of the viewer's keeps a file of the card open when this returns.
+    void releaseCard();
     void setCurrentVideoTime(double seconds);
     void onMovieReady();
     void movieDidEnd();

@@ -28,6 +28,8 @@ public:
     void load(const std::string& clip);
     // Drops what the read under way would deliver.
     void cancel() { ++current_; }
+    // Returns once no read has a file open.
+    void waitForRead() { pool_.waitForDone(); }
 
     // How a clip's telemetry is read: its subtitle track (MP4, MOV), the KRT
     // family's reader, or the general readers.
