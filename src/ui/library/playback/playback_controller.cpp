@@ -27,6 +27,7 @@
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/library/playback/after_first_pictures.h"
+#include "ui/library/playback/card_reads.h"
 #include "ui/library/playback/telemetry_loader.h"
 #include "ui/library/playback/clip_failure_watch.h"
 #include "ui/library/playback/clip_navigation.h"
@@ -343,8 +344,10 @@ void PlaybackController::releaseCard() {
     emit movieViewCoversNeedUpdate();
     telemetry_->waitForRead();
     // Players end on the pool's threads; a demuxer stuck on a dying card
-    // must not hang the window, so the wait is bounded.
+    // must not hang the window, so the waits are bounded. A card report of
+    // thousands of clips may still be reading after that.
     QThreadPool::globalInstance()->waitForDone(kPlayerEndWaitMs);
+    cardReads().waitForDone(kPlayerEndWaitMs);
 }
 
 void PlaybackController::refuseClip(const std::string& url, ClipFileState state) {

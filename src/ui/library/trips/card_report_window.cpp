@@ -7,9 +7,9 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
-#include <QThread>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include "ui/library/playback/card_reads.h"
 #include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
@@ -61,15 +61,13 @@ void CardReportWindow::checkCard(const QString& root) {
     list_->clear();
     QPointer<CardReportWindow> self(this);
     const std::string path = QFile::encodeName(root).toStdString();
-    QThread* worker = QThread::create([self, path, generation] {
+    cardReads().start([self, path, generation] {
         CardReport report = tarvik::checkCard(path);
         QMetaObject::invokeMethod(qApp, [self, report = std::move(report), generation] {
             // A newer check, or a closed window, wins over this one.
             if (self && self->generation_ == generation) self->showReport(report);
         });
     });
-    connect(worker, &QThread::finished, worker, &QObject::deleteLater);
-    worker->start();
 }
 
 void CardReportWindow::showReport(const CardReport& r) {

@@ -5,7 +5,6 @@
 #include <QMenu>
 #include <QSlider>
 #include <QTableView>
-#include <QThread>
 #include <QShortcut>
 #include <QTimer>
 #include <algorithm>
@@ -21,6 +20,7 @@
 #include "ui/library/trips/route_export_controller.h"
 #include "ui/library/trips/trip_list_view.h"
 #include "ui/telemetry/map_controller.h"
+#include "ui/library/playback/card_reads.h"
 #include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
@@ -101,14 +101,12 @@ void TripFeatures::clipPrepared() {
         if (trip_.clips.size() > 1) {
             const int generation = ++routeGeneration_;
             QPointer<TripFeatures> self(this);
-            QThread* worker = QThread::create([self, trip, generation] {
+            cardReads().start([self, trip, generation] {
                 std::vector<RoutePoint> points = readTripRoute(trip).points;
                 QMetaObject::invokeMethod(qApp, [self, points = std::move(points), generation]() mutable {
                     if (self && self->routeGeneration_ == generation) self->showTripRoute(std::move(points));
                 });
             });
-            connect(worker, &QThread::finished, worker, &QObject::deleteLater);
-            worker->start();
         }
     }
     clipOffset_ = index >= 0 ? double(trip_.clips[std::size_t(index)].start - trip_.start) : 0.0;

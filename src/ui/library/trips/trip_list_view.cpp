@@ -6,10 +6,10 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTableView>
-#include <QThread>
 
 #include "core/library/trips/trip_route.h"
 #include "core/library/trips/trip_scanner.h"
+#include "ui/library/playback/card_reads.h"
 #include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
@@ -50,7 +50,7 @@ void TripListView::showTrips(const std::string& root) {
     const int generation = ++generation_;
     QPointer<TripListView> self(this);
     std::vector<Trip> work = trips_;
-    QThread* worker = QThread::create([self, work = std::move(work), generation]() mutable {
+    cardReads().start([self, work = std::move(work), generation]() mutable {
         for (Trip& t : work) measureTrip(t);
         QMetaObject::invokeMethod(qApp, [self, work = std::move(work), generation] {
             if (!self || self->generation_ != generation) return;
@@ -60,8 +60,6 @@ void TripListView::showTrips(const std::string& root) {
             emit self->measured();
         });
     });
-    connect(worker, &QThread::finished, worker, &QObject::deleteLater);
-    worker->start();
 }
 
 void TripListView::fill() {
