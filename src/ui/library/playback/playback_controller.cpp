@@ -28,7 +28,6 @@
 #include "ui/l10n/orvo_languages.h"
 #include "ui/library/playback/after_first_pictures.h"
 #include "ui/library/playback/card_reads.h"
-#include "ui/library/playback/telemetry_loader.h"
 #include "ui/library/playback/clip_failure_watch.h"
 #include "ui/library/playback/clip_navigation.h"
 #include "ui/library/playback/clip_saver.h"
@@ -39,6 +38,7 @@
 #include "ui/library/playback/picture_drag_pan.h"
 #include "ui/library/playback/play_animation.h"
 #include "ui/library/playback/seek_slider_controller.h"
+#include "ui/library/playback/telemetry_loader.h"
 #include "ui/library/playback/volume_controller.h"
 #include "ui/library/playback/zoom_controller.h"
 #include "ui/library/player/orvo_av_view.h"
@@ -61,7 +61,8 @@ namespace {
 
 // A clip whose picture never comes still gets its route.
 constexpr int kRouteDeadlineMs = 1500;
-constexpr int kPlayerEndWaitMs = 3000;
+// How long releasing the card waits for each kind of reader to let go.
+constexpr int kReleaseWaitMs = 3000;
 
 OrvoAVView* playerIn(QWidget* host, const char* name) {
     auto* layout = new QVBoxLayout(host);
@@ -334,30 +335,30 @@ void PlaybackController::setPlayingClip(const std::string& url) {
     emit playingClipChanged(QByteArray::fromStdString(url));
 }
 
-void PlaybackController::releaseCard() {
-    stopVideo();
+void PlaybackController::closeClip() {
     failureWatch_->disarm();
-    clearTelemetry();
     bigMovieView_->reset();
     smallMovieView_->reset();
     setPlayingClip({});
+    // The players were reset: their covers come back (before any alert).
     emit movieViewCoversNeedUpdate();
+}
+
+void PlaybackController::releaseCard() {
+    stopVideo();
+    clearTelemetry();
+    closeClip();
     telemetry_->waitForRead();
     // Players end on the pool's threads; a demuxer stuck on a dying card
     // must not hang the window, so the waits are bounded. A card report of
     // thousands of clips may still be reading after that.
-    QThreadPool::globalInstance()->waitForDone(kPlayerEndWaitMs);
-    cardReads().waitForDone(kPlayerEndWaitMs);
+    QThreadPool::globalInstance()->waitForDone(kReleaseWaitMs);
+    cardReads().waitForDone(kReleaseWaitMs);
 }
 
 void PlaybackController::refuseClip(const std::string& url, ClipFileState state) {
-    failureWatch_->disarm();
     pauseVideo();
-    bigMovieView_->reset();
-    smallMovieView_->reset();
-    setPlayingClip({});
-    // The players were reset: their covers come back before the alert.
-    emit movieViewCoversNeedUpdate();
+    closeClip();
     if (alert_) alert_(tr_k("메모리카드 오류"), ClipFailureWatch::reasonText(url.empty() ? ClipFileState::Ok : state));
 }
 

@@ -127,6 +127,8 @@ private:
 
     void connectButtons();
     void clearTelemetry();
+    // Both players emptied and no clip playing.
+    void closeClip();
     void showTelemetry(const std::shared_ptr<LoadedTelemetry>& telemetry);
     void setPlayPauseImages(const char* image);
     int selectedRow() const;

@@ -31,14 +31,14 @@ public:
     // Returns once no read has a file open.
     void waitForRead() { pool_.waitForDone(); }
 
-    // How a clip's telemetry is read: its subtitle track (MP4, MOV), the KRT
-    // family's reader, or the general readers.
-    static std::shared_ptr<LoadedTelemetry> read(const std::string& clip);
-
 signals:
     void loaded(std::shared_ptr<LoadedTelemetry> telemetry);
 
 private:
+    // How a clip's telemetry is read: an MP4's subtitle track, the KRT
+    // family's reader, or the general readers.
+    static std::shared_ptr<LoadedTelemetry> read(const std::string& clip);
+
     QThreadPool pool_;
     quint64 current_ = 0;
 };

@@ -9,8 +9,9 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include "ui/library/playback/card_reads.h"
+
 #include "ui/l10n/orvo_languages.h"
+#include "ui/library/playback/card_reads.h"
 
 namespace tarvik {
 

@@ -12,7 +12,9 @@
 #include "core/library/clip_catalogue.h"
 #include "core/library/trips/trip_route.h"
 #include "core/library/trips/trip_scanner.h"
+#include "ui/l10n/orvo_languages.h"
 #include "ui/library/events/event_marker_controller.h"
+#include "ui/library/playback/card_reads.h"
 #include "ui/library/playback/dashboard_widgets.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/seek_slider_controller.h"
@@ -20,8 +22,6 @@
 #include "ui/library/trips/route_export_controller.h"
 #include "ui/library/trips/trip_list_view.h"
 #include "ui/telemetry/map_controller.h"
-#include "ui/library/playback/card_reads.h"
-#include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {
 

@@ -9,8 +9,8 @@
 
 #include "core/library/trips/trip_route.h"
 #include "core/library/trips/trip_scanner.h"
-#include "ui/library/playback/card_reads.h"
 #include "ui/l10n/orvo_languages.h"
+#include "ui/library/playback/card_reads.h"
 
 namespace tarvik {
 
