@@ -2,7 +2,6 @@
 // unlike the settings pane, nothing is written back to the card.
 
 #include <cstdio>
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -15,17 +14,9 @@
 
 namespace tarvik::cli {
 
-int cardCommand(int argc, char** argv) {
-    std::string path;
-    bool json = false;
-    for (int i = 1; i < argc; ++i) {
-        if (!std::strcmp(argv[i], "--json")) json = true;
-        else if (path.empty() && argv[i][0] != '-') path = argv[i];
-        else {
-            std::fprintf(stderr, "usage: tarvik card [PATH] [--json]\n");
-            return 2;
-        }
-    }
+int cardCommand(const CardOptions& o) {
+    std::string path = o.path;
+    const bool json = o.json;
 
     M420SettingManager& m = M420SettingManager::SharedM420SettingManager();
     if (path.empty()) {

@@ -1,5 +1,5 @@
 // tarvik check CARD [--json]: what on the card needs attention. Exit status 0
-// when all is well, 1 when something needs attention, 2 on a usage error.
+// when nothing does, 1 when something needs attention, 2 on a usage error.
 #include <cstdio>
 #include <string>
 
@@ -9,13 +9,23 @@
 
 namespace tarvik::cli {
 
-int checkCommand(int argc, char** argv) {
-    std::string card;
-    bool json = false;
-    if (!readCardArguments(argc, argv, card, json)) {
-        std::fprintf(stderr, "usage: tarvik check CARD [--json]\n");
-        return 2;
-    }
+namespace {
+
+std::string counted(int n, const char* noun) { return std::to_string(n) + " " + noun + (n == 1 ? "" : "s"); }
+
+// Notes are worth reading but are no fault: the verdict says both.
+std::string verdict(const CardReport& r) {
+    const int attention = r.count(FindingSeverity::Attention), notes = r.count(FindingSeverity::Note);
+    if (attention) return counted(attention, "thing") + (attention == 1 ? " needs" : " need") + " attention";
+    return notes ? "nothing needs attention, " + counted(notes, "note") : "all well";
+}
+
+}  // namespace
+
+int checkCommand(const CardFolderOptions& o) {
+    setLibraryLogging(o.verbose);
+    const std::string& card = o.card;
+    const bool json = o.json;
     const CardReport r = checkCard(card);
     const SettingsState& s = r.settings;
     if (json) {
@@ -36,14 +46,15 @@ int checkCommand(int argc, char** argv) {
         }
         std::printf("%s]\n}\n", r.findings.empty() ? "" : "\n  ");
     } else {
-        std::printf("%s: %d clips in %d trips, %.1f of %.1f GiB free\n", r.root.c_str(), r.clipCount, r.tripCount,
-                    double(r.freeBytes) / (1 << 30), double(r.totalBytes) / (1 << 30));
+        std::printf("%s: %s in %s, %.1f of %.1f GiB free\n", r.root.c_str(), counted(r.clipCount, "clip").c_str(),
+                    counted(r.tripCount, "trip").c_str(), double(r.freeBytes) / (1 << 30),
+                    double(r.totalBytes) / (1 << 30));
         std::printf("settings: %s%s%s\n", !s.present ? "none" : s.readable ? "readable" : "unreadable",
                     s.modelName.empty() ? "" : ", model ", s.modelName.c_str());
         for (const CardFinding& f : r.findings)
             std::printf("%s %s%s%s%s%s\n", f.severity == FindingSeverity::Attention ? "!" : "-", f.kind.c_str(),
                         f.path.empty() ? "" : " ", f.path.c_str(), f.detail.empty() ? "" : ": ", f.detail.c_str());
-        std::printf(r.needsAttention() ? "needs attention\n" : "all well\n");
+        std::printf("%s\n", verdict(r).c_str());
     }
     return r.needsAttention() ? 1 : 0;
 }

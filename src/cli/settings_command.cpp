@@ -4,7 +4,6 @@
 // written in one atomic step or not at all.
 
 #include <cstdio>
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -17,15 +16,6 @@
 namespace tarvik::cli {
 
 namespace {
-
-int usage() {
-    std::fprintf(stderr,
-                 "usage: tarvik settings CARD [--json]\n"
-                 "       tarvik settings CARD set [--dry-run] NAME=VALUE...\n"
-                 "       tarvik settings CARD export > PROFILE.json\n"
-                 "       tarvik settings apply [--dry-run] PROFILE.json CARD...\n");
-    return 2;
-}
 
 std::optional<CardSettings> open(const std::string& root) {
     std::string error;
@@ -72,71 +62,51 @@ bool edit(const CardSettings& card, const std::vector<SettingAssignment>& set, b
     return true;
 }
 
-int setCommand(const CardSettings& card, int argc, char** argv) {
-    bool dry = false;
+int setCommand(const CardSettings& card, const SettingsOptions& o) {
     std::vector<SettingAssignment> set;
-    for (int i = 0; i < argc; ++i) {
-        const char* eq = std::strchr(argv[i], '=');
-        if (!std::strcmp(argv[i], "--dry-run")) dry = true;
-        else if (eq && eq != argv[i]) set.push_back({std::string(argv[i], static_cast<std::size_t>(eq - argv[i])), std::string(eq + 1)});
-        else return usage();
+    for (const std::string& a : o.assignments) {
+        const std::size_t eq = a.find('=');
+        set.push_back({a.substr(0, eq), a.substr(eq + 1)});
     }
-    if (set.empty()) return usage();
     std::string summary;
-    const bool ok = edit(card, set, dry, &summary);
+    const bool ok = edit(card, set, o.dryRun, &summary);
     std::printf("%s: %s\n", card.root.c_str(), summary.c_str());
     return ok ? 0 : 1;
 }
 
-int applyCommand(int argc, char** argv) {
-    bool dry = false;
-    std::vector<std::string> args;
-    for (int i = 0; i < argc; ++i) {
-        if (!std::strcmp(argv[i], "--dry-run")) dry = true;
-        else args.emplace_back(argv[i]);
-    }
-    if (args.size() < 2) return usage();
+int applyCommand(const SettingsOptions& o) {
     std::string error;
-    const auto profile = readSettingsProfile(args[0], &error);
+    const auto profile = readSettingsProfile(o.profile, &error);
     if (!profile) {
         std::fprintf(stderr, "tarvik settings: %s\n", error.c_str());
         return 1;
     }
     int failures = 0;
-    for (std::size_t i = 1; i < args.size(); ++i) {
+    for (const std::string& path : o.cards) {
         std::string summary;
-        const auto card = readCardSettings(args[i], &error);
+        const auto card = readCardSettings(path, &error);
         bool ok = false;
         if (!card) summary = "refused: " + error;
         else if (const auto why = profileMismatch(*profile, *card)) summary = "refused: " + *why;
-        else ok = edit(*card, profile->settings, dry, &summary);
+        else ok = edit(*card, profile->settings, o.dryRun, &summary);
         failures += ok ? 0 : 1;
-        std::printf("%s: %s\n", args[i].c_str(), summary.c_str());
+        std::printf("%s: %s\n", path.c_str(), summary.c_str());
     }
     return failures ? 1 : 0;
 }
 
 }  // namespace
 
-int settingsCommand(int argc, char** argv) {
-    if (argc < 2) return usage();
-    if (!std::strcmp(argv[1], "apply")) return applyCommand(argc - 2, argv + 2);
-    const std::string root = argv[1];
-    const char* action = argc > 2 ? argv[2] : "";
-    if (!*action || !std::strcmp(action, "--json")) {
-        if (argc > 3) return usage();
-        const auto card = open(root);
-        if (!card) return 1;
-        show(*card, *action != '\0');
-        return 0;
-    }
-    if (std::strcmp(action, "set") && std::strcmp(action, "export")) return usage();
-    const auto card = open(root);
+int settingsCommand(const SettingsOptions& o) {
+    using Action = SettingsOptions::Action;
+    if (o.action == Action::Apply) return applyCommand(o);
+    const auto card = open(o.card);
     if (!card) return 1;
-    if (!std::strcmp(action, "set")) return setCommand(*card, argc - 3, argv + 3);
-    if (argc > 3) return usage();
-    std::fputs(exportSettingsProfile(*card).c_str(), stdout);
-    return 0;
+    switch (o.action) {
+    case Action::Set: return setCommand(*card, o);
+    case Action::Export: std::fputs(exportSettingsProfile(*card).c_str(), stdout); return 0;
+    default: show(*card, o.json); return 0;
+    }
 }
 
 }  // namespace tarvik::cli

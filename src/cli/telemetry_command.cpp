@@ -2,8 +2,6 @@
 // Reads a clip's telemetry the way the player does and prints it.
 #include <cctype>
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -13,6 +11,7 @@ extern "C" {
 }
 
 #include "cli/commands.h"
+#include "core/library/trips/trip_builder.h"
 #include "core/media/subtitle_track.h"
 #include "core/telemetry/krt_clip_name.h"
 #include "core/telemetry/orvo_clip_data.h"
@@ -29,25 +28,14 @@ std::string lower(std::string s) {
     return s;
 }
 
-int usage() {
-    std::fprintf(stderr, "usage: tarvik telemetry CLIP [--format csv|gpx|geojson|kml] [--krt]\n");
-    return 2;
-}
-
 }  // namespace
 
-int telemetryCommand(int argc, char** argv) {
-    std::string clipArg, format = "csv";
-    bool krt = false;
-    for (int i = 1; i < argc; ++i) {
-        if (!std::strcmp(argv[i], "--format") && i + 1 < argc) format = argv[++i];
-        else if (!std::strncmp(argv[i], "--format=", 9)) format = argv[i] + 9;
-        else if (!std::strcmp(argv[i], "--krt")) krt = true;
-        else if (argv[i][0] == '-' || !clipArg.empty()) return usage();
-        else clipArg = argv[i];
-    }
-    if (clipArg.empty() || (format != "csv" && format != "gpx" && format != "geojson" && format != "kml"))
-        return usage();
+void setLibraryLogging(bool verbose) { av_log_set_level(verbose ? AV_LOG_WARNING : AV_LOG_QUIET); }
+
+int telemetryCommand(const TelemetryOptions& o) {
+    setLibraryLogging(o.verbose);
+    const std::string& clipArg = o.clip;
+    const std::string& format = o.format;
     const fs::path clip = clipArg;
     std::error_code ec;
     if (!fs::is_regular_file(clip, ec)) {
@@ -58,12 +46,10 @@ int telemetryCommand(int argc, char** argv) {
     auto data = std::make_unique<OrvoClipData>();
     const std::string name = clip.filename().string();
     if (lower(clip.extension().string()) == ".mp4") {
-        // A damaged clip must not fill the terminal with libav's complaints.
-        av_log_set_level(AV_LOG_QUIET);
         // Its telemetry is in a subtitle track, read in-process; a clip
         // that cannot be read has none, like any other clip without telemetry.
         SubtitleTrack::load(clip.string(), *data);
-    } else if (krt || isKrtClipName(name)) {
+    } else if (o.krt || isKrtClipName(name)) {
         data->loadVideoFileCilpDataFromFilePath_KRT(clip.string());
     } else {
         data->loadVideoFileCilpDataFromFilePath(clip.string());
@@ -71,7 +57,7 @@ int telemetryCommand(int argc, char** argv) {
 
     std::string out;
     if (format == "csv") out = RouteExporter::csv(*data);
-    else if (format == "gpx") out = RouteExporter::gpx(*data, name);
+    else if (format == "gpx") out = RouteExporter::gpx(*data, name, clipStartFromName(name));
     else if (format == "kml") out = RouteExporter::kml(*data, name);
     else out = RouteExporter::geoJson(*data, name);
     std::fwrite(out.data(), 1, out.size(), stdout);

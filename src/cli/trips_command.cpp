@@ -9,13 +9,10 @@
 
 namespace tarvik::cli {
 
-int tripsCommand(int argc, char** argv) {
-    std::string card;
-    bool json = false;
-    if (!readCardArguments(argc, argv, card, json)) {
-        std::fprintf(stderr, "usage: tarvik trips CARD [--json]\n");
-        return 2;
-    }
+int tripsCommand(const CardFolderOptions& o) {
+    setLibraryLogging(o.verbose);
+    const std::string& card = o.card;
+    const bool json = o.json;
     const std::vector<Trip> trips = scanCardTrips(card, true);
     if (json) std::printf("[");
     for (std::size_t i = 0; i < trips.size(); ++i) {
