@@ -1,6 +1,8 @@
 #include "core/telemetry/route_exporter.h"
 
+#include <cmath>
 #include <cstdio>
+#include <ctime>
 
 #include "core/telemetry/orvo_clip_data.h"
 
@@ -64,18 +66,40 @@ std::string RouteExporter::csvRows(const OrvoClipData& d, double offset) {
     return out;
 }
 
-std::string RouteExporter::gpx(const OrvoClipData& d, std::string_view name) { return gpx(route(d), name); }
+std::string RouteExporter::gpx(const OrvoClipData& d, std::string_view name, std::optional<std::int64_t> start) {
+    return gpx(route(d), name, start);
+}
 std::string RouteExporter::kml(const OrvoClipData& d, std::string_view name) { return kml(route(d), name); }
 std::string RouteExporter::geoJson(const OrvoClipData& d, std::string_view name) { return geoJson(route(d), name); }
 
-std::string RouteExporter::gpx(const std::vector<RoutePoint>& r, std::string_view name) {
+std::string RouteExporter::gpxTime(std::int64_t cameraStart, double seconds) {
+    const std::time_t naive = static_cast<std::time_t>(cameraStart);
+    std::tm fields{};
+    if (!gmtime_r(&naive, &fields)) return {};
+    fields.tm_isdst = -1;
+    const std::time_t utc = std::mktime(&fields);
+    if (utc == static_cast<std::time_t>(-1)) return {};
+    const long long tenths = std::llround(seconds * 10);
+    const std::time_t at = utc + static_cast<std::time_t>(tenths / 10);
+    std::tm out{};
+    if (!gmtime_r(&at, &out)) return {};
+    return fmt("%04d-%02d-%02dT%02d:%02d:%02d.%01lldZ", out.tm_year + 1900, out.tm_mon + 1, out.tm_mday, out.tm_hour,
+               out.tm_min, out.tm_sec, tenths % 10);
+}
+
+std::string RouteExporter::gpx(const std::vector<RoutePoint>& r, std::string_view name,
+                               std::optional<std::int64_t> start) {
     std::string out =
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         "<gpx version=\"1.1\" creator=\"tarvik\" xmlns=\"http://www.topografix.com/GPX/1/1\">\n"
         "  <trk>\n    <name>" + xmlEscape(name) + "</name>\n    <trkseg>\n";
-    for (const RoutePoint& p : r)
-        out += fmt("      <trkpt lat=\"%.6f\" lon=\"%.6f\"><desc>t=%.1f s, %u km/h</desc></trkpt>\n", p.lat, p.lng,
-                   p.seconds, p.speed);
+    for (const RoutePoint& p : r) {
+        // GPX wants <time> before <desc>.
+        const std::string time = start ? gpxTime(*start, p.seconds) : std::string();
+        out += fmt("      <trkpt lat=\"%.6f\" lon=\"%.6f\">", p.lat, p.lng);
+        if (!time.empty()) out += "<time>" + time + "</time>";
+        out += fmt("<desc>t=%.1f s, %u km/h</desc></trkpt>\n", p.seconds, p.speed);
+    }
     out += "    </trkseg>\n  </trk>\n</gpx>\n";
     return out;
 }

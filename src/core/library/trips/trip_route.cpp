@@ -18,6 +18,7 @@ double metresBetween(double lat1, double lng1, double lat2, double lng2) {
 
 TripRoute readTripRoute(const Trip& trip, bool withCsv) {
     TripRoute r;
+    r.start = trip.start;
     auto data = std::make_unique<OrvoClipData>();  // 15 KiB: not on the stack
     for (const TripClip& c : trip.clips) {
         r.clipFirstPoint.push_back(r.points.size());
@@ -48,7 +49,7 @@ void measureTrip(Trip& trip) {
 }
 
 std::string exportTripRoute(const TripRoute& route, std::string_view format, std::string_view name) {
-    if (format == "gpx") return RouteExporter::gpx(route.points, name);
+    if (format == "gpx") return RouteExporter::gpx(route.points, name, route.start);
     if (format == "kml") return RouteExporter::kml(route.points, name);
     if (format == "geojson") return RouteExporter::geoJson(route.points, name);
     if (format == "csv") return "t,gx,gy,gz,lat,lng,speed\n" + route.csvRows;

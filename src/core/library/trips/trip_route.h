@@ -2,6 +2,7 @@
 // A trip's telemetry read clip after clip: the whole route, its length and top
 // speed, and the samples for export. Seconds count from the trip's start.
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 namespace tarvik {
 
 struct TripRoute {
+    std::int64_t start = 0;  // the trip's start as the camera's clock read it
     std::vector<RoutePoint> points;
     std::vector<std::size_t> clipFirstPoint;  // index into points where each clip's part begins
     double distanceMetres = 0;
