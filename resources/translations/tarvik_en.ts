@@ -774,14 +774,6 @@ Select a model name to apply its default settings.</translation>
         <translation>, %1 bytes</translation>
     </message>
     <message>
-        <source>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</source>
-        <translation>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</translation>
-    </message>
-    <message>
-        <source>%1 things need attention</source>
-        <translation>%1 things need attention</translation>
-    </message>
-    <message>
         <source>All is well</source>
         <translation>All is well</translation>
     </message>
@@ -821,9 +813,61 @@ Select a model name to apply its default settings.</translation>
         <source>Time</source>
         <translation>Time</translation>
     </message>
+    <message numerus="yes">
+        <source>%n clips</source>
+        <translation>
+            <numerusform>%n clip</numerusform>
+            <numerusform>%n clips</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trips</source>
+        <translation>
+            <numerusform>%n trip</numerusform>
+            <numerusform>%n trips</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things need attention</source>
+        <translation>
+            <numerusform>%n thing needs attention</numerusform>
+            <numerusform>%n things need attention</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n notes</source>
+        <translation>
+            <numerusform>%n note</numerusform>
+            <numerusform>%n notes</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>%1 clips</source>
-        <translation>%1 clips</translation>
+        <source>Nothing needs attention</source>
+        <translation>Nothing needs attention</translation>
+    </message>
+    <message>
+        <source>%1 in %2  ·  %3 of %4 GiB free  ·  %5</source>
+        <translation>%1 in %2  ·  %3 of %4 GiB free  ·  %5</translation>
+    </message>
+    <message>
+        <source>Folder not found</source>
+        <translation>Folder not found</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>This folder does not exist.</translation>
+    </message>
+    <message>
+        <source>Trips</source>
+        <translation>Trips</translation>
+    </message>
+    <message>
+        <source>Export route of the playing trip...</source>
+        <translation>Export route of the playing trip...</translation>
+    </message>
+    <message>
+        <source>Export route of this trip...</source>
+        <translation>Export route of this trip...</translation>
     </message>
 </context>
 </TS>

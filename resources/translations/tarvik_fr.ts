@@ -774,14 +774,6 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <translation>, %1 octets</translation>
     </message>
     <message>
-        <source>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</source>
-        <translation>%1 vidéos en %2 trajets  ·  %3 Gio libres sur %4  ·  %5</translation>
-    </message>
-    <message>
-        <source>%1 things need attention</source>
-        <translation>%1 points à vérifier</translation>
-    </message>
-    <message>
         <source>All is well</source>
         <translation>Tout va bien</translation>
     </message>
@@ -821,9 +813,61 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>Time</source>
         <translation>Durée</translation>
     </message>
+    <message numerus="yes">
+        <source>%n clips</source>
+        <translation>
+            <numerusform>%n vidéo</numerusform>
+            <numerusform>%n vidéos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trips</source>
+        <translation>
+            <numerusform>%n trajet</numerusform>
+            <numerusform>%n trajets</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things need attention</source>
+        <translation>
+            <numerusform>%n point à vérifier</numerusform>
+            <numerusform>%n points à vérifier</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n notes</source>
+        <translation>
+            <numerusform>%n remarque</numerusform>
+            <numerusform>%n remarques</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>%1 clips</source>
-        <translation>%1 vidéos</translation>
+        <source>Nothing needs attention</source>
+        <translation>Rien à vérifier</translation>
+    </message>
+    <message>
+        <source>%1 in %2  ·  %3 of %4 GiB free  ·  %5</source>
+        <translation>%1 en %2  ·  %3 Gio libres sur %4  ·  %5</translation>
+    </message>
+    <message>
+        <source>Folder not found</source>
+        <translation>Dossier introuvable</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Ce dossier n'existe pas.</translation>
+    </message>
+    <message>
+        <source>Trips</source>
+        <translation>Trajets</translation>
+    </message>
+    <message>
+        <source>Export route of the playing trip...</source>
+        <translation>Exporter l'itinéraire du trajet en cours...</translation>
+    </message>
+    <message>
+        <source>Export route of this trip...</source>
+        <translation>Exporter l'itinéraire de ce trajet...</translation>
     </message>
 </context>
 </TS>

@@ -774,14 +774,6 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <translation>、%1 バイト</translation>
     </message>
     <message>
-        <source>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</source>
-        <translation>動画 %1 本、走行 %2 回  ·  空き %3 / %4 GiB  ·  %5</translation>
-    </message>
-    <message>
-        <source>%1 things need attention</source>
-        <translation>要確認 %1 件</translation>
-    </message>
-    <message>
         <source>All is well</source>
         <translation>問題ありません</translation>
     </message>
@@ -821,9 +813,57 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>Time</source>
         <translation>時間</translation>
     </message>
+    <message numerus="yes">
+        <source>%n clips</source>
+        <translation>
+            <numerusform>動画 %n 本</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trips</source>
+        <translation>
+            <numerusform>走行 %n 回</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things need attention</source>
+        <translation>
+            <numerusform>要確認 %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n notes</source>
+        <translation>
+            <numerusform>メモ %n 件</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>%1 clips</source>
-        <translation>動画 %1 本</translation>
+        <source>Nothing needs attention</source>
+        <translation>確認が必要な項目はありません</translation>
+    </message>
+    <message>
+        <source>%1 in %2  ·  %3 of %4 GiB free  ·  %5</source>
+        <translation>%1、%2  ·  空き %3 / %4 GiB  ·  %5</translation>
+    </message>
+    <message>
+        <source>Folder not found</source>
+        <translation>フォルダーが見つかりません</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>このフォルダーは存在しません。</translation>
+    </message>
+    <message>
+        <source>Trips</source>
+        <translation>走行</translation>
+    </message>
+    <message>
+        <source>Export route of the playing trip...</source>
+        <translation>再生中の走行のルートを書き出す...</translation>
+    </message>
+    <message>
+        <source>Export route of this trip...</source>
+        <translation>この走行のルートを書き出す...</translation>
     </message>
 </context>
 </TS>

@@ -774,14 +774,6 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <translation>, %1 bytes</translation>
     </message>
     <message>
-        <source>%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5</source>
-        <translation>%1 vídeos em %2 viagens  ·  %3 de %4 GiB livres  ·  %5</translation>
-    </message>
-    <message>
-        <source>%1 things need attention</source>
-        <translation>%1 pontos a verificar</translation>
-    </message>
-    <message>
         <source>All is well</source>
         <translation>Está tudo bem</translation>
     </message>
@@ -821,9 +813,61 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>Time</source>
         <translation>Duração</translation>
     </message>
+    <message numerus="yes">
+        <source>%n clips</source>
+        <translation>
+            <numerusform>%n vídeo</numerusform>
+            <numerusform>%n vídeos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trips</source>
+        <translation>
+            <numerusform>%n viagem</numerusform>
+            <numerusform>%n viagens</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things need attention</source>
+        <translation>
+            <numerusform>%n ponto a verificar</numerusform>
+            <numerusform>%n pontos a verificar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n notes</source>
+        <translation>
+            <numerusform>%n observação</numerusform>
+            <numerusform>%n observações</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>%1 clips</source>
-        <translation>%1 vídeos</translation>
+        <source>Nothing needs attention</source>
+        <translation>Nada a verificar</translation>
+    </message>
+    <message>
+        <source>%1 in %2  ·  %3 of %4 GiB free  ·  %5</source>
+        <translation>%1 em %2  ·  %3 de %4 GiB livres  ·  %5</translation>
+    </message>
+    <message>
+        <source>Folder not found</source>
+        <translation>Pasta não encontrada</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Esta pasta não existe.</translation>
+    </message>
+    <message>
+        <source>Trips</source>
+        <translation>Viagens</translation>
+    </message>
+    <message>
+        <source>Export route of the playing trip...</source>
+        <translation>Exportar o trajeto da viagem em reprodução...</translation>
+    </message>
+    <message>
+        <source>Export route of this trip...</source>
+        <translation>Exportar o trajeto desta viagem...</translation>
     </message>
 </context>
 </TS>

@@ -87,4 +87,12 @@ QString OrvoLanguages::localized(const char* utf8Key) const {
     return localized(QString::fromUtf8(utf8Key));
 }
 
+QString OrvoLanguages::localized(const char* utf8Key, int n) const {
+    if (!utf8Key) return {};
+    const QTranslator* table = tables_->find(currentLanguageCode());
+    QString text = table ? table->translate(kTableContext, utf8Key, nullptr, n) : QString();
+    if (text.isEmpty()) text = QString::fromUtf8(utf8Key);
+    return text.replace(QStringLiteral("%n"), QString::number(n));
+}
+
 }  // namespace tarvik

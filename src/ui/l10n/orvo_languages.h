@@ -18,6 +18,9 @@ public:
     // itself: a Korean label is better than a blank button.
     QString localized(const QString& key) const;
     QString localized(const char* utf8Key) const;
+    // A text that counts ("%n clips"): the table's form for n, with n in
+    // place of %n, so that each language says "1 clip" its own way.
+    QString localized(const char* utf8Key, int n) const;
 
     // The first entry of "AppleLanguages", or empty when there is none.
     static QString currentLanguageCode();
@@ -42,5 +45,6 @@ inline OrvoLanguages& SharedOrvoLanguages() { return OrvoLanguages::shared(); }
 // Shorthand for widgets: the localised text of a key.
 inline QString tr_k(const char* utf8Key) { return OrvoLanguages::shared().localized(utf8Key); }
 inline QString tr_k(const QString& key) { return OrvoLanguages::shared().localized(key); }
+inline QString tr_k(const char* utf8Key, int n) { return OrvoLanguages::shared().localized(utf8Key, n); }
 
 }  // namespace tarvik

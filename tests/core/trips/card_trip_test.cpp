@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <regex>
+#include <sstream>
 
 #include "cardgen/card_plan.h"
 #include "core/library/check/card_report.h"
@@ -62,7 +63,8 @@ void expectGpx11(const std::string& gpx) {
             continue;
         }
         static const std::map<std::string, std::string> parent = {
-            {"gpx", ""}, {"trk", "gpx"}, {"name", "trk"}, {"trkseg", "trk"}, {"trkpt", "trkseg"}, {"desc", "trkpt"}};
+            {"gpx", ""},         {"trk", "gpx"},    {"name", "trk"}, {"trkseg", "trk"},
+            {"trkpt", "trkseg"}, {"time", "trkpt"}, {"desc", "trkpt"}};
         ASSERT_TRUE(parent.count(name)) << name;
         ASSERT_EQ(open.empty() ? "" : open.back(), parent.at(name)) << name;
         if (name == "trkpt") {
@@ -74,6 +76,22 @@ void expectGpx11(const std::string& gpx) {
         if ((*it)[4] != "/") open.push_back(name);
     }
     EXPECT_TRUE(open.empty());
+}
+
+// The point times gpsbabel, the tool people convert routes with, reads from a
+// GPX file, as it writes them out again (a time it could not read is dropped).
+std::vector<std::string> gpsbabelTimes(const std::string& gpx) {
+    const fs::path file = fs::temp_directory_path() / ("tarvik-route-" + std::to_string(getpid()) + ".gpx");
+    std::ofstream(file) << gpx;
+    const ProcessResult r = ProcessRunner::run("gpsbabel", {"-t", "-i", "gpx", "-f", file.string(), "-o", "gpx", "-F", "-"},
+                                               std::chrono::minutes(1));
+    fs::remove(file);
+    EXPECT_EQ(r.exitCode, 0) << r.output;
+    std::vector<std::string> times;
+    const std::regex point(R"(<trkpt[^>]*>\s*<time>([^<]*)</time>)");
+    for (auto it = std::sregex_iterator(r.output.begin(), r.output.end(), point); it != std::sregex_iterator(); ++it)
+        times.push_back((*it)[1]);
+    return times;
 }
 
 }  // namespace
@@ -106,8 +124,17 @@ TEST(CardTrips, FiveMinutePairsAreOneTrip) {
         EXPECT_EQ(route.points[i].lng, expected[i].lng) << i;
         if (i) { EXPECT_GT(route.points[i].seconds, route.points[i - 1].seconds) << i; }
     }
+    // The camera's clock is the computer's local time; here that is UTC.
+    setenv("TZ", "UTC", 1);
+    tzset();
     const std::string gpx = exportTripRoute(route, "gpx", "trip & <drive>");
     expectGpx11(gpx);
+    // Every point has its time, and the tools read them back as recorded.
+    const std::vector<std::string> times = gpsbabelTimes(gpx);
+    ASSERT_EQ(times.size(), expected.size()) << gpx.substr(0, 2000);
+    EXPECT_EQ(times.front().substr(0, 19), "2026-11-21T10:00:00") << times.front();
+    for (std::size_t i : {std::size_t(1), expected.size() / 2, expected.size() - 1})
+        EXPECT_EQ(times[i].substr(0, 19), RouteExporter::gpxTime(t.start, route.points[i].seconds).substr(0, 19)) << i;
     std::size_t at = 0;
     for (const RoutePoint& p : expected) {
         char buf[64];
@@ -181,11 +208,12 @@ TEST(CardCheck, NamesEveryKindOfFault) {
     ProcessResult r = runTarvik({"check", card.root.string()});
     EXPECT_EQ(r.exitCode, 1) << r.output;
     for (const char* line : {"! unplayable %s/evt_rec/20261121_130300.mp4: zero bytes",
+                             // Cameras without a GPS fix record all the same: a note, not a fault.
+                             "- no-telemetry %s/evt_rec/20261121_130000.mp4: recorded without GPS or G-sensor data",
                              "! unplayable %s/evt_rec/20261121_130100.mp4: no index",
                              "! unplayable %s/evt_rec/20261121_130200.avi: truncated",
                              "! front-without-rear %s/cont_rec/20261121_100020_F.mp4",
                              "! rear-without-front %s/cont_rec/20261121_120100_R.mp4",
-                             "! no-telemetry %s/evt_rec/20261121_130000.mp4",
                              "- gap %s/cont_rec/20261121_100020_F.mp4: 8 s after 20261121_100008_F.avi"}) {
         char want[512];
         std::snprintf(want, sizeof want, line, card.root.c_str());
@@ -193,7 +221,8 @@ TEST(CardCheck, NamesEveryKindOfFault) {
     }
     EXPECT_NE(r.output.find("settings: readable, model "), std::string::npos) << r.output;
     const CardReport report = checkCard(card.root.string());
-    EXPECT_EQ(report.count(FindingSeverity::Attention), 6);
+    EXPECT_EQ(report.count(FindingSeverity::Attention), 5);
+    EXPECT_NE(r.output.find("\n5 things need attention\n"), std::string::npos) << r.output;
     EXPECT_EQ(report.clipCount, 12);
     EXPECT_EQ(report.settings.length, report.settings.expectedLength);
 
@@ -219,5 +248,20 @@ TEST(CardCheck, DemoCardIsWell) {
     Card card(cardgen::demoCardPlan(o));
     ProcessResult r = runTarvik({"check", card.root.string()});
     EXPECT_EQ(r.exitCode, 0) << r.output;
-    EXPECT_NE(r.output.find("all well"), std::string::npos);
+    // Notes listed above the verdict are never followed by "all well".
+    int notes = 0;
+    for (std::size_t at = r.output.find("\n- "); at != std::string::npos; at = r.output.find("\n- ", at + 1)) ++notes;
+    const std::string verdict = notes ? "nothing needs attention, " + std::to_string(notes) + (notes == 1 ? " note" : " notes")
+                                      : std::string("all well");
+    EXPECT_NE(r.output.find("\n" + verdict + "\n"), std::string::npos) << r.output;
+}
+
+TEST(CardCheck, MissingFolder) {
+    ProcessResult r = runTarvik({"check", "/no/such/card"});
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_NE(r.output.find("/no/such/card"), std::string::npos) << r.output;
+    const CardReport report = checkCard("/no/such/card");
+    EXPECT_FALSE(report.folderFound);
+    EXPECT_TRUE(report.needsAttention());
+    EXPECT_EQ(report.clipCount, 0);
 }

@@ -87,6 +87,12 @@ CardReport checkCard(const std::string& root) {
     using S = FindingSeverity;
     CardReport r;
     r.root = root;
+    std::error_code missing;
+    if (!fs::is_directory(root, missing)) {
+        r.folderFound = false;
+        add(r, S::Attention, "missing", root, "no such folder");
+        return r;
+    }
     ClipCatalogue catalogue;
     catalogue.refreshVideoFileListWithURL(root);
     std::vector<std::string> clips = catalogue.allVideoFileList();
@@ -109,7 +115,7 @@ CardReport checkCard(const std::string& root) {
         // The rear camera of a pair may leave the telemetry to the front one.
         if (info.state == ContainerState::Playable && side != 'R') {
             loadClipTelemetry(clip, *data);
-            if (data->clipDataCount() == 0) add(r, S::Attention, "no-telemetry", clip, "");
+            if (data->clipDataCount() == 0) add(r, S::Note, "no-telemetry", clip, "recorded without GPS or G-sensor data");
         }
     }
 

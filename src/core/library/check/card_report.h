@@ -13,8 +13,9 @@ enum class FindingSeverity { Attention, Note };
 
 struct CardFinding {
     FindingSeverity severity = FindingSeverity::Attention;
-    // "unplayable", "front-without-rear", "rear-without-front", "no-telemetry",
-    // "gap", "settings", "free-space".
+    // "unplayable", "front-without-rear", "rear-without-front", "gap",
+    // "settings", "free-space"; as notes, "no-telemetry" (many cameras record
+    // without a GPS fix or with the G-sensor off) and "gap".
     std::string kind;
     std::string path;    // the clip or file concerned, "" for the card
     std::string detail;  // "truncated", "12 s after 20261121_083000_F.mp4", ...
@@ -31,6 +32,7 @@ struct SettingsState {
 
 struct CardReport {
     std::string root;
+    bool folderFound = true;  // false: nothing was looked at
     int clipCount = 0;
     int tripCount = 0;
     SettingsState settings;

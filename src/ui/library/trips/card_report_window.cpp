@@ -23,6 +23,7 @@ QString findingKindText(const std::string& kind) {
     if (kind == "gap") return tr_k("Gap in the recording");
     if (kind == "settings") return tr_k("Settings files");
     if (kind == "free-space") return tr_k("Free space");
+    if (kind == "missing") return tr_k("Folder not found");
     return QString::fromStdString(kind);
 }
 
@@ -79,14 +80,17 @@ void CardReportWindow::showReport(const CardReport& r) {
                        : !s.readable ? tr_k("settings file unreadable")
                        : tr_k("settings readable") + (s.modelName.empty() ? QString() : ", " + QString::fromStdString(s.modelName));
     if (s.length >= 0) settings += tr_k(", %1 bytes").arg(s.length);
-    summary_->setText(tr_k("%1 clips in %2 trips  ·  %3 of %4 GiB free  ·  %5")
-                          .arg(r.clipCount)
-                          .arg(r.tripCount)
-                          .arg(double(r.freeBytes) / (1 << 30), 0, 'f', 1)
-                          .arg(double(r.totalBytes) / (1 << 30), 0, 'f', 1)
-                          .arg(settings));
-    const int attention = r.count(FindingSeverity::Attention);
-    verdict_->setText(attention ? tr_k("%1 things need attention").arg(attention) : tr_k("All is well"));
+    summary_->setText(r.folderFound ? tr_k("%1 in %2  ·  %3 of %4 GiB free  ·  %5")
+                                          .arg(tr_k("%n clips", r.clipCount), tr_k("%n trips", r.tripCount))
+                                          .arg(double(r.freeBytes) / (1 << 30), 0, 'f', 1)
+                                          .arg(double(r.totalBytes) / (1 << 30), 0, 'f', 1)
+                                          .arg(settings)
+                                    : tr_k("This folder does not exist."));
+    // Notes (a gap, a clip without GPS) are worth reading but are no fault.
+    const int attention = r.count(FindingSeverity::Attention), notes = r.count(FindingSeverity::Note);
+    verdict_->setText(attention ? tr_k("%n things need attention", attention)
+                      : notes   ? tr_k("Nothing needs attention") + "  ·  " + tr_k("%n notes", notes)
+                                : tr_k("All is well"));
     verdict_->setStyleSheet(attention ? "color: #eb4034; font-weight: 600;" : "color: #3fae5a; font-weight: 600;");
     list_->clear();
     for (const CardFinding& f : r.findings) {

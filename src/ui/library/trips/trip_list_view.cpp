@@ -74,7 +74,7 @@ void TripListView::fill() {
         item->setText(3, known ? QString::number(t.distanceMetres / 1000.0, 'f', 2) : QStringLiteral("-"));
         item->setText(4, known ? QString::number(t.topSpeedKmh) : QStringLiteral("-"));
         for (int c = 2; c < 5; ++c) item->setTextAlignment(c, Qt::AlignRight | Qt::AlignVCenter);
-        item->setToolTip(0, tr_k("%1 clips").arg(t.clips.size()) + "  " + QString::fromStdString(t.folder));
+        item->setToolTip(0, tr_k("%n clips", int(t.clips.size())) + "  " + QString::fromStdString(t.folder));
     }
 }
 
