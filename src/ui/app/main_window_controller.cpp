@@ -80,6 +80,7 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
     new KeyTableRouter(window, v_.fileListTableView, [this] { catalogue_->videoFileListDoubleClicked(); }, this);
     // ---- end of playback ----
     trips_ = new TripFeatures(v_.fileListTableView, catalogue_->catalogue(), *playback_, window, this);
+    trips_->addMenuTo(v_.mainMenu);
 
     auto& center = NotificationCenter::shared();
     connect(&center, &NotificationCenter::refreshLanguage, this, &MainWindowController::refreshLanguageHandler);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QItemSelectionModel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QSlider>
 #include <QTableView>
 #include <QShortcut>
@@ -12,6 +13,7 @@
 #include "core/library/clip_catalogue.h"
 #include "core/library/trips/trip_route.h"
 #include "core/library/trips/trip_scanner.h"
+#include "ui/app/prefs/notification_center.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/library/events/event_marker_controller.h"
 #include "ui/library/playback/card_reads.h"
@@ -165,6 +167,42 @@ bool TripFeatures::exportTripOfSelection() {
     return export_->exportTrip(trip, QString::fromStdString(tripTimeText(trip.start)));
 }
 
+bool TripFeatures::exportPlayingTrip() {
+    const std::string& clip = playback_.currentVideoUrl();
+    if (clip.empty()) return false;
+    const Trip trip = tripOf(clip);
+    return export_->exportTrip(trip, QString::fromStdString(tripTimeText(trip.start)));
+}
+
+QMenu* TripFeatures::addMenuTo(QMenuBar* bar) {
+    QMenu* menu = bar->addMenu(QString());
+    menu->setObjectName("tripsMenu");
+    auto title = [menu] { menu->setTitle(tr_k("Trips")); };
+    title();
+    connect(&NotificationCenter::shared(), &NotificationCenter::refreshLanguage, menu, title);
+    // Filled on opening, so that what is enabled follows the list and the player.
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+        menu->clear();
+        menu->addAction(tripList_->isVisible() ? tr_k("Show clips") : tr_k("Show trips"), this,
+                        [this] { showTripList(tripList_->isHidden()); })
+            ->setEnabled(!catalogue_.selectedVideoDirectoryUrl().empty());
+        menu->addSeparator();
+        menu->addAction(tr_k("Export route of the playing trip..."), this, [this] { exportPlayingTrip(); })
+            ->setEnabled(!playback_.currentVideoUrl().empty());
+        addCommands(*menu);
+    });
+    return menu;
+}
+
+void TripFeatures::addCommands(QMenu& menu) {
+    const bool any = !selectedClips().empty();
+    menu.addAction(tr_k("Export route of the selected clips..."), this, [this] { exportSelection(); })->setEnabled(any);
+    menu.addAction(tr_k("Export route of the whole trip..."), this, [this] { exportTripOfSelection(); })->setEnabled(any);
+    menu.addSeparator();
+    menu.addAction(tr_k("Card report..."), this, [this] { showCardReport(); })
+        ->setEnabled(!catalogue_.selectedVideoDirectoryUrl().empty());
+}
+
 CardReportWindow* TripFeatures::showCardReport() {
     const std::string& root = catalogue_.selectedVideoDirectoryUrl();
     if (root.empty()) return nullptr;
@@ -198,19 +236,24 @@ bool TripFeatures::playTrip(const Trip& trip) {
 void TripFeatures::showContextMenu(const QPoint& at) {
     QMenu menu(clipList_);
     if (tripList_->isVisible()) {
+        const int row = tripList_->indexOfTopLevelItem(tripList_->itemAt(at));
+        const auto& trips = tripList_->trips();
         menu.addAction(tr_k("Show clips"), this, [this] { showTripList(false); });
+        menu.addSeparator();
+        menu.addAction(tr_k("Export route of this trip..."), this, [this, row] {
+            const auto& list = tripList_->trips();
+            if (row >= 0 && row < int(list.size()))
+                export_->exportTrip(list[std::size_t(row)], QString::fromStdString(tripTimeText(list[std::size_t(row)].start)));
+        })->setEnabled(row >= 0 && row < int(trips.size()));
+        menu.addSeparator();
+        menu.addAction(tr_k("Card report..."), this, [this] { showCardReport(); });
         menu.exec(tripList_->viewport()->mapToGlobal(at));
         return;
     }
     menu.addAction(tr_k("Show trips"), this, [this] { showTripList(true); })
         ->setEnabled(!catalogue_.selectedVideoDirectoryUrl().empty());
     menu.addSeparator();
-    const bool any = !selectedClips().empty();
-    menu.addAction(tr_k("Export route of the selected clips..."), this, [this] { exportSelection(); })->setEnabled(any);
-    menu.addAction(tr_k("Export route of the whole trip..."), this, [this] { exportTripOfSelection(); })->setEnabled(any);
-    menu.addSeparator();
-    menu.addAction(tr_k("Card report..."), this, [this] { showCardReport(); })
-        ->setEnabled(!catalogue_.selectedVideoDirectoryUrl().empty());
+    addCommands(menu);
     menu.exec(clipList_->viewport()->mapToGlobal(at));
 }
 

@@ -12,6 +12,8 @@
 #include "core/library/trips/trip.h"
 #include "core/telemetry/route_exporter.h"
 
+class QMenu;
+class QMenuBar;
 class QWidget;
 class QTableView;
 
@@ -45,6 +47,11 @@ public:
     std::vector<std::string> selectedClips() const;
     bool exportSelection();
     bool exportTripOfSelection();
+    // The whole trip of the clip that plays.
+    bool exportPlayingTrip();
+    // A "Trips" menu on the window's menu bar with the same commands as the
+    // clip list's context menu, for those who never right-click.
+    QMenu* addMenuTo(QMenuBar* bar);
     CardReportWindow* showCardReport();
     // Trips in place of the clips in the list, or the clips again.
     void showTripList(bool on);
@@ -57,6 +64,7 @@ private:
     void playingTimeChanged(int milliseconds);
     void showTripRoute(std::vector<RoutePoint> points);
     void showContextMenu(const QPoint& at);
+    void addCommands(QMenu& menu);
 
     QTableView* clipList_;
     ClipCatalogue& catalogue_;
