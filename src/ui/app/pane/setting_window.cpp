@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QApplication>
 #include <QVBoxLayout>
 #include <cmath>
 
@@ -18,6 +19,24 @@ SettingWindow::SettingWindow(QWidget* parent) : QDialog(parent) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    // Return confirms the pane whichever of its controls has the focus. A key
+    // press would not climb to this window: the pane's own view takes every
+    // key for its Escape, and a focused button or list may take Return itself.
+    qApp->installEventFilter(this);
+}
+
+SettingWindow::~SettingWindow() { qApp->removeEventFilter(this); }
+
+bool SettingWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !keyDelegate_ || !isVisible() || !watched->isWidgetType())
+        return QDialog::eventFilter(watched, event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    // An open list or menu keeps Return to choose its item.
+    if ((key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) || QApplication::activePopupWidget() ||
+        static_cast<QWidget*>(watched)->window() != this)
+        return QDialog::eventFilter(watched, event);
+    keyDelegate_->keyDown(key);
+    return true;
 }
 
 QRect SettingWindow::centredFrame(const QRect& parentFrame, const QSize& paneSize) {

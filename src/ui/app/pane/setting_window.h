@@ -15,6 +15,7 @@ class SettingWindow : public QDialog {
     Q_OBJECT
 public:
     explicit SettingWindow(QWidget* parent = nullptr);
+    ~SettingWindow() override;
 
     // Shows paneView centred over parentWindow (borderless unless
     // showTitleBar), runs it modally and returns the code the pane ended it
@@ -45,6 +46,7 @@ public slots:
     void languageChangeToJapanese();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
