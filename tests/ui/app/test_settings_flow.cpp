@@ -13,6 +13,7 @@
 #include <functional>
 
 #include "cardgen/card_plan.h"
+#include "modal_script.h"
 #include "core/device/external_memory.h"
 #include "core/settings/m420/m420_setting_manager.h"
 #include "ui/app/card_controller.h"
@@ -24,33 +25,10 @@
 #include "ui/settings/web/web_setting_window_controller.h"
 
 using namespace tarvik;
+using tarvik::test::ModalScript;
 namespace fs = std::filesystem;
 
 namespace {
-
-// Answers the modal windows as they open, one step each, in order.
-class ModalScript : public QObject {
-public:
-    using Step = std::function<void(QWidget* modal, OrvoViewController* pane)>;
-    explicit ModalScript(std::deque<Step> steps) : steps_(std::move(steps)) {
-        connect(&timer_, &QTimer::timeout, this, [this] {
-            QWidget* w = QApplication::activeModalWidget();
-            if (!w || w == last_ || steps_.empty()) return;
-            last_ = w;
-            auto* window = qobject_cast<SettingWindow*>(w);
-            Step s = std::move(steps_.front());
-            steps_.pop_front();
-            s(w, window ? window->keyEventDelegate() : nullptr);
-        });
-        timer_.start(20);
-    }
-    bool done() const { return steps_.empty(); }
-
-private:
-    QTimer timer_;
-    QPointer<QWidget> last_;
-    std::deque<Step> steps_;
-};
 
 M420SettingManager& manager() { return M420SettingManager::SharedM420SettingManager(); }
 
