@@ -19,4 +19,10 @@ const QStringList& dashcamScriptNames();
 
 QWebEngineScript dashcamPageScript();
 
+// Refuses every navigation of the page once kNavigationLockCall has run in
+// the application world: a camera page may send itself to about:blank or a
+// blob, which never reach the page's navigation check.
+QWebEngineScript navigationLockScript();
+inline constexpr const char* kNavigationLockCall = "window.tarvikLockNavigation && window.tarvikLockNavigation()";
+
 }  // namespace tarvik

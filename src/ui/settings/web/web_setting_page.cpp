@@ -1,8 +1,10 @@
 #include "ui/settings/web/web_setting_page.h"
 
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
 #include "ui/settings/web/card_folder_request_guard.h"
+#include "ui/settings/web/dashcam_page_script.h"
 
 namespace tarvik {
 
@@ -17,6 +19,12 @@ WebSettingPage::WebSettingPage(QWebEngineProfile* profile, const CardFolderReque
     s->setAttribute(QWebEngineSettings::AllowGeolocationOnInsecureOrigins, false);
     s->setAttribute(QWebEngineSettings::ScreenCaptureEnabled, false);
     s->setAttribute(QWebEngineSettings::PdfViewerEnabled, false);
+    scripts().insert(navigationLockScript());
+}
+
+void WebSettingPage::blockNavigation() {
+    navigationBlocked_ = true;
+    runJavaScript(QString::fromUtf8(kNavigationLockCall), QWebEngineScript::ApplicationWorld);
 }
 
 bool WebSettingPage::acceptNavigationRequest(const QUrl& target, NavigationType, bool isMainFrame) {

@@ -15,7 +15,7 @@ class WebSettingPage : public QWebEnginePage {
 public:
     WebSettingPage(QWebEngineProfile* profile, const CardFolderRequestGuard& guard, QObject* parent = nullptr);
 
-    void blockNavigation() { navigationBlocked_ = true; }
+    void blockNavigation();
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;

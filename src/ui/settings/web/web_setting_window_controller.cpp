@@ -240,6 +240,13 @@ void WebSettingWindowController::showNextQuestion() {
         const QAbstractButton* clicked = box->clickedButton();
         answerQuestion(q, clicked && clicked != first);
         QMetaObject::invokeMethod(this, &WebSettingWindowController::showNextQuestion, Qt::QueuedConnection);
+        // Without a window manager to hand it back, the keyboard would stay
+        // with the closed question, and Ctrl+S or Escape would reach nobody.
+        QMetaObject::invokeMethod(this, [this] {
+            if (yesNoAlert_) return;
+            activateWindow();
+            webView_->setFocus(Qt::OtherFocusReason);
+        }, Qt::QueuedConnection);
     });
     yesNoAlert_ = box;
     box->open();

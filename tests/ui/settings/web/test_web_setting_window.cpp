@@ -199,6 +199,8 @@ private slots:
         QVERIFY(QTest::qWaitFor([&] { return (box = w->findChild<QMessageBox*>()) && box->text() == "Again?"; }, 5000));
         shownButtons(box).at(0)->click();
         QVERIFY(waitReceived(w, "cancel:4"));
+        // The keyboard is back with the settings window once the last question closed.
+        QTRY_VERIFY_WITH_TIMEOUT(QApplication::focusWidget() && QApplication::focusWidget()->window() == w, 10000);
 
         // The page reaches nothing beyond its own folder and cannot leave.
         QVERIFY(QFile::link("/etc/passwd", card.setting("html/link.txt")));  // a way out planted on the card
@@ -286,6 +288,51 @@ private slots:
         QTest::keyClick(w->webView()->focusProxy() ? w->webView()->focusProxy() : w, Qt::Key_Escape);
         QVERIFY(QTest::qWaitFor([&] { return guard.isNull(); }, 5000));
         QCOMPARE(card.snapshot(), before);
+    }
+
+    // Once connected, the page stays whatever it asks for: the viewer's
+    // settings live in that document, and Save asks it for them.
+    void hostilePageCannotNavigateAway() {
+        Card card;
+        writeFile(card.setting("setup.cfg"), record(464, 0));
+        writeFile(card.setting("html/other.html"), "<html><body>other</body></html>");
+        auto* w = open(card, {});
+        QVERIFY(waitReceived(w, "langs:[]"));
+        js(w, "window.marker = 'still here'");
+        const QUrl page = w->webView()->url();
+        const QStringList attempts = {
+            "location.href = 'about:blank'",
+            "location.href = 'data:text/html,<p>gone</p>'",
+            "location.href = 'javascript:\\'<p>gone</p>\\''",
+            "location.href = 'javascript:window.ran = 1'",
+            "location.href = URL.createObjectURL(new Blob(['<p>gone</p>'], {type: 'text/html'}))",
+            "location.reload()",
+            "location.href = 'other.html'",
+            "location.replace('other.html')",
+            "history.pushState({}, '', 'other.html'); history.back()",
+            "history.go(-1)",
+            "var f = document.createElement('form'); f.action = 'other.html'; document.body.appendChild(f); f.submit()",
+            "document.open(); document.write('<p>gone</p>'); document.close()",
+            "window.open('about:blank', '_self')",
+        };
+        QStringList failed;
+        for (const QString& attempt : attempts) {
+            js(w, "setTimeout(function () { " + attempt + " }, 0)");
+            QTest::qWait(400);
+            if (js(w, "window.marker").toString() != "still here" ||
+                w->webView()->url().adjusted(QUrl::RemoveFragment | QUrl::RemoveQuery) != page) {
+                failed << attempt + " -> " + w->webView()->url().toString();
+                break;  // the page is gone: what follows would say nothing
+            }
+        }
+        QVERIFY2(failed.isEmpty(), qPrintable(failed.join("\n")));
+        QCOMPARE(js(w, "window.ran").toInt(), 1);  // a javascript: link still runs its script
+        QSignalSpy saved(w, &WebSettingWindowController::saveFinished);
+        js(w, "cfgReply = '0aff'");
+        w->saveButton()->click();
+        QVERIFY(saved.wait(5000));
+        QCOMPARE(saved.first().first().toBool(), true);
+        QCOMPARE(readAll(card.setting("setup.cfg")), QByteArray("\x0a\xff", 2));
     }
 
     void oneLanguageShortRecord() {
