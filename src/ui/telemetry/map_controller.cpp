@@ -42,6 +42,8 @@ void MapController::setWebView(QWebEngineView* webView) {
     webView_ = webView;
     pageReady_ = false;
     if (webView_) {
+        // A map is no browser: Back, Reload and View page source mean nothing here.
+        webView_->setContextMenuPolicy(Qt::NoContextMenu);
         loadConnection_ = connect(webView_, &QWebEngineView::loadFinished, this,
                                   &MapController::onLoadFinished);
         connect(webView_, &QWebEngineView::loadStarted, this, [this] { pageReady_ = false; });

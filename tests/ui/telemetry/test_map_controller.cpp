@@ -3,6 +3,7 @@
 #include <QJsonObject>
 #include <QWebEnginePage>
 #include <QWebEngineView>
+#include <QApplication>
 #include <QtTest>
 
 #include <vector>
@@ -138,6 +139,10 @@ private slots:
 
         QJsonObject state;
         QTRY_VERIFY_WITH_TIMEOUT((state = mapState(view)).value("initialized").toBool(), 10000);
+        // A map has no browser menu (Back, Reload, View page source) on a right click.
+        QTest::mouseClick(view.focusProxy() ? view.focusProxy() : &view, Qt::RightButton, {}, QPoint(240, 180));
+        QTest::qWait(1000);
+        QVERIFY(!QApplication::activePopupWidget());
         QVERIFY(state.value("scale").toBool());
         QVERIFY(state.value("markerImage").toBool());
         const QJsonArray route = state.value("route").toArray();
