@@ -869,5 +869,49 @@ Select a model name to apply its default settings.</translation>
         <source>Export route of this trip...</source>
         <translation>Export route of this trip...</translation>
     </message>
+    <message>
+        <source>The disk service (UDisks2) does not answer.</source>
+        <translation>The disk service (UDisks2) does not answer.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) does not know the device mounted here.</source>
+        <translation>The disk service (UDisks2) does not know the device mounted here.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) finds no file system on the card.</source>
+        <translation>The disk service (UDisks2) finds no file system on the card.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) says the card's drive is not removable.</source>
+        <translation>The disk service (UDisks2) says the card's drive is not removable.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) said: %1</source>
+        <translation>The disk service (UDisks2) said: %1</translation>
+    </message>
+    <message>
+        <source>The card is in use by another program.</source>
+        <translation>The card is in use by another program.</translation>
+    </message>
+    <message>
+        <source>Formatting the card was not authorised.</source>
+        <translation>Formatting the card was not authorised.</translation>
+    </message>
+    <message>
+        <source>This folder is not where a card is mounted.</source>
+        <translation>This folder is not where a card is mounted.</translation>
+    </message>
+    <message>
+        <source>This volume holds the system or your home folder.</source>
+        <translation>This volume holds the system or your home folder.</translation>
+    </message>
+    <message>
+        <source>The card's drive is not removable.</source>
+        <translation>The card's drive is not removable.</translation>
+    </message>
+    <message>
+        <source>The card has no name of its own.</source>
+        <translation>The card has no name of its own.</translation>
+    </message>
 </context>
 </TS>

@@ -869,5 +869,49 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>Export route of this trip...</source>
         <translation>Exporter l'itinéraire de ce trajet...</translation>
     </message>
+    <message>
+        <source>The disk service (UDisks2) does not answer.</source>
+        <translation>Le service des disques (UDisks2) ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) does not know the device mounted here.</source>
+        <translation>Le service des disques (UDisks2) ne connaît pas le périphérique monté ici.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) finds no file system on the card.</source>
+        <translation>Le service des disques (UDisks2) ne trouve aucun système de fichiers sur la carte.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) says the card's drive is not removable.</source>
+        <translation>Selon le service des disques (UDisks2), le lecteur de la carte n'est pas amovible.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) said: %1</source>
+        <translation>Le service des disques (UDisks2) a répondu : %1</translation>
+    </message>
+    <message>
+        <source>The card is in use by another program.</source>
+        <translation>La carte est utilisée par un autre programme.</translation>
+    </message>
+    <message>
+        <source>Formatting the card was not authorised.</source>
+        <translation>Le formatage de la carte n'a pas été autorisé.</translation>
+    </message>
+    <message>
+        <source>This folder is not where a card is mounted.</source>
+        <translation>Ce dossier n'est pas l'emplacement où une carte est montée.</translation>
+    </message>
+    <message>
+        <source>This volume holds the system or your home folder.</source>
+        <translation>Ce volume contient le système ou votre dossier personnel.</translation>
+    </message>
+    <message>
+        <source>The card's drive is not removable.</source>
+        <translation>Le lecteur de la carte n'est pas amovible.</translation>
+    </message>
+    <message>
+        <source>The card has no name of its own.</source>
+        <translation>La carte n'a pas de nom propre.</translation>
+    </message>
 </context>
 </TS>

@@ -865,5 +865,49 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>Export route of this trip...</source>
         <translation>この走行のルートを書き出す...</translation>
     </message>
+    <message>
+        <source>The disk service (UDisks2) does not answer.</source>
+        <translation>ディスクサービス (UDisks2) が応答しません。</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) does not know the device mounted here.</source>
+        <translation>ここにマウントされたデバイスはディスクサービス (UDisks2) に認識されていません。</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) finds no file system on the card.</source>
+        <translation>ディスクサービス (UDisks2) はカードにファイルシステムを見つけられません。</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) says the card's drive is not removable.</source>
+        <translation>ディスクサービス (UDisks2) によると、カードのドライブは取り外し可能ではありません。</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) said: %1</source>
+        <translation>ディスクサービス (UDisks2) の応答: %1</translation>
+    </message>
+    <message>
+        <source>The card is in use by another program.</source>
+        <translation>カードは別のプログラムで使用中です。</translation>
+    </message>
+    <message>
+        <source>Formatting the card was not authorised.</source>
+        <translation>カードのフォーマットは許可されませんでした。</translation>
+    </message>
+    <message>
+        <source>This folder is not where a card is mounted.</source>
+        <translation>このフォルダーはカードのマウント先ではありません。</translation>
+    </message>
+    <message>
+        <source>This volume holds the system or your home folder.</source>
+        <translation>このボリュームにはシステムまたはホームフォルダーがあります。</translation>
+    </message>
+    <message>
+        <source>The card's drive is not removable.</source>
+        <translation>カードのドライブは取り外し可能ではありません。</translation>
+    </message>
+    <message>
+        <source>The card has no name of its own.</source>
+        <translation>カードに固有の名前がありません。</translation>
+    </message>
 </context>
 </TS>

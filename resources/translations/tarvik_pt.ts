@@ -869,5 +869,49 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>Export route of this trip...</source>
         <translation>Exportar o trajeto desta viagem...</translation>
     </message>
+    <message>
+        <source>The disk service (UDisks2) does not answer.</source>
+        <translation>O serviço de discos (UDisks2) não responde.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) does not know the device mounted here.</source>
+        <translation>O serviço de discos (UDisks2) não conhece o dispositivo montado aqui.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) finds no file system on the card.</source>
+        <translation>O serviço de discos (UDisks2) não encontra nenhum sistema de ficheiros no cartão.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) says the card's drive is not removable.</source>
+        <translation>Segundo o serviço de discos (UDisks2), a unidade do cartão não é removível.</translation>
+    </message>
+    <message>
+        <source>The disk service (UDisks2) said: %1</source>
+        <translation>O serviço de discos (UDisks2) respondeu: %1</translation>
+    </message>
+    <message>
+        <source>The card is in use by another program.</source>
+        <translation>O cartão está a ser usado por outro programa.</translation>
+    </message>
+    <message>
+        <source>Formatting the card was not authorised.</source>
+        <translation>A formatação do cartão não foi autorizada.</translation>
+    </message>
+    <message>
+        <source>This folder is not where a card is mounted.</source>
+        <translation>Esta pasta não é onde um cartão está montado.</translation>
+    </message>
+    <message>
+        <source>This volume holds the system or your home folder.</source>
+        <translation>Este volume contém o sistema ou a sua pasta pessoal.</translation>
+    </message>
+    <message>
+        <source>The card's drive is not removable.</source>
+        <translation>A unidade do cartão não é removível.</translation>
+    </message>
+    <message>
+        <source>The card has no name of its own.</source>
+        <translation>O cartão não tem nome próprio.</translation>
+    </message>
 </context>
 </TS>

@@ -205,12 +205,17 @@ private slots:
         QTest::addColumn<bool>("sysfsRemovable");
         QTest::addColumn<QString>("path");  // relative to the card, or absolute
         QTest::addColumn<QString>("mountedFrom");
-        QTest::newRow("Untitled 1") << "Untitled 1" << true << true << "" << kDevice;
-        QTest::newRow("drive not removable") << "CARD" << false << true << "" << kDevice;
-        QTest::newRow("sysfs not removable") << "CARD" << true << false << "" << kDevice;
-        QTest::newRow("folder on the card") << "CARD" << true << true << "DCIM" << kDevice;
-        QTest::newRow("root volume") << "CARD" << true << true << "/" << kDevice;
-        QTest::newRow("unknown to UDisks2") << "CARD" << true << true << "" << "/dev/sdq1";
+        QTest::addColumn<QString>("reason");  // said below the camera's own text
+        QTest::newRow("Untitled 1") << "Untitled 1" << true << true << "" << kDevice << "The card has no name of its own.";
+        QTest::newRow("drive not removable") << "CARD" << false << true << "" << kDevice
+                                             << "The disk service (UDisks2) says the card's drive is not removable.";
+        QTest::newRow("sysfs not removable") << "CARD" << true << false << "" << kDevice << "The card's drive is not removable.";
+        QTest::newRow("folder on the card") << "CARD" << true << true << "DCIM" << kDevice
+                                            << "This folder is not where a card is mounted.";
+        QTest::newRow("root volume") << "CARD" << true << true << "/" << kDevice
+                                     << "This volume holds the system or your home folder.";
+        QTest::newRow("unknown to UDisks2") << "CARD" << true << true << "" << "/dev/sdq1"
+                                            << "The disk service (UDisks2) does not know the device mounted here.";
     }
     void refusalsAskNothingAndEraseNothing() {
         QFETCH(QString, label);
@@ -218,6 +223,7 @@ private slots:
         QFETCH(bool, sysfsRemovable);
         QFETCH(QString, path);
         QFETCH(QString, mountedFrom);
+        QFETCH(QString, reason);
         startUDisks({{"label", label}, {"removable", driveRemovable}});
         removableBySysfs_ = sysfsRemovable;
         auto env = [this, mountedFrom] {
@@ -232,7 +238,7 @@ private slots:
         QVERIFY(!flow.memoryCardFormatAlert());
         QMessageBox* alert = flow.formattingAlert();
         QVERIFY(alert);
-        QCOMPARE(alert->informativeText(), tr_k("메모리 카드를 포멧할 수 없습니다."));
+        QCOMPARE(alert->informativeText(), tr_k("메모리 카드를 포멧할 수 없습니다.") + "\n\n" + tr_k(reason));
         QVERIFY(buttonTitled(alert, "OK")->isEnabled());
         QVERIFY(!flow.progressIndic());
         if (label.startsWith("Untitled")) {
@@ -263,11 +269,24 @@ private slots:
             "메모리 카드를 포멧할 수 없습니다.\r\n\r\nTARVIK VIEWR에서 동영상을 재생 중이거나 GPS 데이터를 수집중인 경우\r\n"
             "TARVIK VIEWER를 종료하고 다시 포맷하십시오.\r\n메모리카드를 사용하고 있는 디스크 유틸리티나 다른 프로그램을 종료하고\r\n"
             "메모리카드의 내용을 표시하고 있는 창이 없는지 확인한 다음 다시 포맷하십시오.");
-        QCOMPARE(flow.formattingAlert()->informativeText(), failure);
-        QCOMPARE(watch.textWhenEnabled, failure);  // the text was in place before the button could close it
+        const QString said = failure + "\n\n" + tr_k("The disk service (UDisks2) said: %1").arg("error wiping device");
+        QCOMPARE(flow.formattingAlert()->informativeText(), said);
+        QCOMPARE(watch.textWhenEnabled, said);  // the text was in place before the button could close it
         QCOMPARE(formats(), QStringList());
         QVERIFY(UDisks2CardFormatter().inspect(environment().mounts[1]).has_value());  // mounted again
         shoot(flow.formattingAlert(), "failure");
+    }
+
+    // A card some program holds is not erased, and the alert says why.
+    void busyCardIsNamedAsBusy() {
+        startUDisks({{"label", "DASHCAM"}, {"busy", true}});
+        MemoryCardFormat flow(std::make_shared<UDisks2CardFormatter>(), nullptr, [this] { return environment(); });
+        QSignalSpy finished(&flow, &MemoryCardFormat::formatFinished);
+        flow.formatMemoryCard(&window_, card_);
+        buttonTitled(flow.memoryCardFormatAlert(), tr_k("예"))->click();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 20000);
+        QVERIFY(flow.formattingAlert()->informativeText().endsWith("\n\n" + tr_k("The card is in use by another program.")));
+        QCOMPARE(formats(), QStringList());
     }
 
     // Without a UDisks2 service nothing can be checked, so nothing is asked.
@@ -275,6 +294,7 @@ private slots:
         MemoryCardFormat flow(std::make_shared<UDisks2CardFormatter>(), nullptr, [this] { return environment(); });
         flow.formatMemoryCard(&window_, card_);
         QVERIFY(!flow.memoryCardFormatAlert() && flow.formattingAlert());
+        QVERIFY(flow.formattingAlert()->informativeText().endsWith(tr_k("The disk service (UDisks2) does not answer.")));
     }
 };
 

@@ -1,6 +1,6 @@
 '''A UDisks2 service with one card, for python3-dbusmock's --template.
 
-Parameters (JSON): device, mount_point, type, label, removable, fail_format,
+Parameters (JSON): device, mount_point, type, label, removable, fail_format, busy,
 delay (seconds Format takes), marker (a file Format creates when it begins).
 Every Format that succeeds is recorded as "device|type|label" in the
 property Formats of the interface com.tarvik.Test on the block object.
@@ -34,7 +34,7 @@ def _fail(name, message):
 
 def load(mock, parameters):
     p = {'device': '/dev/mmcblk9p1', 'mount_point': '/media/card', 'type': 'vfat', 'label': 'CARD',
-         'removable': True, 'fail_format': False, 'delay': 0, 'marker': ''}
+         'removable': True, 'fail_format': False, 'busy': False, 'delay': 0, 'marker': ''}
     p.update(parameters)
     block_path = '/org/freedesktop/UDisks2/block_devices/' + os.path.basename(p['device'])
     drive_path = '/org/freedesktop/UDisks2/drives/Tarvik_Card_Reader'
@@ -61,6 +61,8 @@ def load(mock, parameters):
         return len(self.props[FS]['MountPoints']) > 0
 
     def unmount(self, options):
+        if p['busy']:
+            _fail('DeviceBusy', 'Error unmounting: target is busy')
         if not is_mounted(self):
             _fail('NotMounted', 'not mounted')
         self.props[FS]['MountPoints'] = dbus.Array([], signature='ay')

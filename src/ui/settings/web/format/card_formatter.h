@@ -29,6 +29,10 @@ public:
     // Called on a worker thread; blocks until done. True when the card was
     // erased with the same file-system type and label.
     virtual bool format(const CardVolume& volume) = 0;
+    // Why the last inspect or format came to nothing, for the person who asked
+    // (the service missing, the drive not removable, the card in use, ...);
+    // empty when the formatter cannot tell. Read on the thread that called.
+    virtual QString failureReason() const { return {}; }
 };
 
 }  // namespace tarvik

@@ -38,6 +38,23 @@ QString volumeName(const CardVolume& v) {
     return v.label.isEmpty() ? QFileInfo(QDir::cleanPath(v.mountPoint)).fileName() : v.label;
 }
 
+// The viewer's own reasons for not formatting what it was given.
+QString refusalReason(FormatRefusal refusal) {
+    switch (refusal) {
+    case FormatRefusal::None: return {};
+    case FormatRefusal::NotMountRoot: return tr_k("This folder is not where a card is mounted.");
+    case FormatRefusal::SystemVolume: return tr_k("This volume holds the system or your home folder.");
+    case FormatRefusal::NotRemovable: return tr_k("The card's drive is not removable.");
+    case FormatRefusal::UnusableName: return tr_k("The card has no name of its own.");
+    }
+    return {};
+}
+
+// The camera's own text first, then why, when anyone can tell.
+QString withReason(const QString& text, const QString& reason) {
+    return reason.isEmpty() ? text : text + QStringLiteral("\n\n") + reason;
+}
+
 // The progress alert cannot be dismissed while its button is disabled: not by
 // Escape, not by the window's close button.
 class ProgressAlert : public QMessageBox {
@@ -81,8 +98,12 @@ void MemoryCardFormat::formatMemoryCard(QWidget* window, const QString& volumePa
     const FormatTargetCheck check = checkFormatTarget(volumePath.toStdString(), environment_());
     std::optional<CardVolume> volume;
     if (check.refusal == FormatRefusal::None && formatter_) volume = formatter_->inspect(check.volume);
-    if (!volume || !isUsableVolumeName(volumeName(*volume).toStdString())) {
-        showFormatAlertWithInformativeText(tr_k(kCannotFormatKey));
+    QString reason = refusalReason(check.refusal);
+    if (reason.isEmpty() && !volume) reason = formatter_ ? formatter_->failureReason() : QString();
+    if (reason.isEmpty() && !isUsableVolumeName(volumeName(*volume).toStdString()))
+        reason = refusalReason(FormatRefusal::UnusableName);
+    if (!volume || !reason.isEmpty()) {
+        showFormatAlertWithInformativeText(withReason(tr_k(kCannotFormatKey), reason));
         return;
     }
     volume_ = *volume;
@@ -166,7 +187,9 @@ void MemoryCardFormat::finishFormatting(bool succeeded) {
     worker_ = nullptr;
     // The text first, then the indicator and the button, so that the user can
     // never close the alert before it tells how things went.
-    if (formattingAlert_) formattingAlert_->setInformativeText(tr_k(succeeded ? kDoneKey : kFailedKey));
+    if (formattingAlert_)
+        formattingAlert_->setInformativeText(succeeded ? tr_k(kDoneKey)
+                                                       : withReason(tr_k(kFailedKey), formatter_ ? formatter_->failureReason() : QString()));
     if (progressIndic_) {
         progressIndic_->setRange(0, 1);
         progressIndic_->setValue(succeeded ? 1 : 0);

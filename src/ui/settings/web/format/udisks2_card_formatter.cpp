@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QVariantMap>
 
+#include "ui/l10n/orvo_languages.h"
+
 namespace tarvik {
 
 namespace {
@@ -70,18 +72,37 @@ private:
     QDBusConnection& c_;
 };
 
+constexpr const char* kNoService = "The disk service (UDisks2) does not answer.";
+
+// UDisks2's answer in the user's words where it is a common one, else its own.
+UDisks2CardFormatter::Reason reasonOf(const QDBusMessage& reply) {
+    const QString name = reply.errorName();
+    if (name.endsWith(QLatin1String(".DeviceBusy")) || name.endsWith(QLatin1String(".Busy")))
+        return {"The card is in use by another program.", {}};
+    if (name.contains(QLatin1String("NotAuthorized")) || name.endsWith(QLatin1String(".AccessDenied")))
+        return {"Formatting the card was not authorised.", {}};
+    if (name.endsWith(QLatin1String(".ServiceUnknown")) || name.endsWith(QLatin1String(".NoReply")))
+        return {kNoService, {}};
+    return {"The disk service (UDisks2) said: %1", reply.errorMessage().isEmpty() ? name : reply.errorMessage()};
+}
+
 }  // namespace
 
 UDisks2CardFormatter::UDisks2CardFormatter(QDBusConnection bus) : bus_(std::move(bus)) {}
 
 std::optional<CardVolume> UDisks2CardFormatter::inspect(const MountEntry& mount) {
+    reason_ = {kNoService, {}};
     if (!bus_.isConnected()) return std::nullopt;
     Bus bus(bus_);
     const QString device = QString::fromStdString(mount.source);
     const QString mountPoint = cleanPath(QString::fromStdString(mount.mountPoint));
     QDBusMessage r = bus.call(kManagerPath, kManagerIface, QStringLiteral("ResolveDevice"),
                               {QVariantMap{{QStringLiteral("path"), device}}, QVariantMap{}});
-    if (!Bus::ok(r) || r.arguments().isEmpty()) return std::nullopt;
+    if (!Bus::ok(r) || r.arguments().isEmpty()) {
+        reason_ = reasonOf(r);
+        return std::nullopt;
+    }
+    reason_ = {"The disk service (UDisks2) does not know the device mounted here.", {}};
     const auto objects = qdbus_cast<QList<QDBusObjectPath>>(r.arguments().first());
     for (const QDBusObjectPath& o : objects) {
         const QString path = o.path();
@@ -94,10 +115,24 @@ std::optional<CardVolume> UDisks2CardFormatter::inspect(const MountEntry& mount)
         v.fsType = bus.property(path, kBlockIface, QStringLiteral("IdType")).toString();
         v.label = bus.property(path, kBlockIface, QStringLiteral("IdLabel")).toString();
         const QString drive = bus.property(path, kBlockIface, QStringLiteral("Drive")).value<QDBusObjectPath>().path();
-        if (v.fsType.isEmpty() || !driveIsRemovable(drive)) return std::nullopt;
+        if (v.fsType.isEmpty()) {
+            reason_ = {"The disk service (UDisks2) finds no file system on the card.", {}};
+            return std::nullopt;
+        }
+        if (!driveIsRemovable(drive)) {
+            reason_ = {"The disk service (UDisks2) says the card's drive is not removable.", {}};
+            return std::nullopt;
+        }
+        reason_ = {};
         return v;
     }
     return std::nullopt;
+}
+
+QString UDisks2CardFormatter::failureReason() const {
+    if (!reason_.key) return {};
+    const QString text = tr_k(reason_.key);
+    return reason_.detail.isEmpty() ? text : text.arg(reason_.detail);
 }
 
 bool UDisks2CardFormatter::driveIsRemovable(const QString& drive) {
@@ -108,20 +143,30 @@ bool UDisks2CardFormatter::driveIsRemovable(const QString& drive) {
 }
 
 bool UDisks2CardFormatter::format(const CardVolume& v) {
+    reason_ = {kNoService, {}};
     if (!bus_.isConnected() || v.objectPath.isEmpty() || v.fsType.isEmpty()) return false;
     Bus bus(bus_);
-    if (!bus.mountPoints(v.objectPath).isEmpty() &&
-        !Bus::ok(bus.call(v.objectPath, kFsIface, QStringLiteral("Unmount"), {QVariantMap{}})))
-        return false;  // something still holds the card: nothing was erased
+    if (!bus.mountPoints(v.objectPath).isEmpty()) {
+        const QDBusMessage unmounted = bus.call(v.objectPath, kFsIface, QStringLiteral("Unmount"), {QVariantMap{}});
+        if (!Bus::ok(unmounted)) {
+            reason_ = reasonOf(unmounted);
+            return false;  // something still holds the card: nothing was erased
+        }
+    }
     QVariantMap options;
     if (!v.label.isEmpty()) options.insert(QStringLiteral("label"), v.label);
-    const bool formatted = Bus::ok(
-        bus.call(v.objectPath, kBlockIface, QStringLiteral("Format"), {v.fsType, options}, kFormatTimeoutMs));
+    const QDBusMessage reply =
+        bus.call(v.objectPath, kBlockIface, QStringLiteral("Format"), {v.fsType, options}, kFormatTimeoutMs);
+    const bool formatted = Bus::ok(reply);
+    reason_ = formatted ? Reason{} : reasonOf(reply);
     // Mount again whatever happened, so that a failed erase does not also take
     // the card away; a desktop automounter may have been quicker.
     if (bus.mountPoints(v.objectPath).isEmpty()) {
         QDBusMessage m = bus.call(v.objectPath, kFsIface, QStringLiteral("Mount"), {QVariantMap{}});
-        if (!Bus::ok(m) && !m.errorName().endsWith(QLatin1String("AlreadyMounted"))) return false;
+        if (!Bus::ok(m) && !m.errorName().endsWith(QLatin1String("AlreadyMounted"))) {
+            if (!reason_.key) reason_ = reasonOf(m);
+            return false;
+        }
     }
     return formatted;
 }

@@ -19,6 +19,14 @@ public:
 
     std::optional<CardVolume> inspect(const MountEntry& mount) override;
     bool format(const CardVolume& volume) override;
+    // In the current language; call it on the interface thread.
+    QString failureReason() const override;
+
+    // A text of the language tables, and what it says in place of %1.
+    struct Reason {
+        const char* key = nullptr;
+        QString detail;
+    };
 
     // The longest a single UDisks2 call may take; erasing a large card is slow.
     static constexpr int kFormatTimeoutMs = 30 * 60 * 1000;
@@ -31,6 +39,7 @@ protected:
 
 private:
     QDBusConnection bus_;
+    Reason reason_;
 };
 
 }  // namespace tarvik
