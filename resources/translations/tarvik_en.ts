@@ -913,5 +913,9 @@ Select a model name to apply its default settings.</translation>
         <source>The card has no name of its own.</source>
         <translation>The card has no name of its own.</translation>
     </message>
+    <message>
+        <source>The folder %1 does not exist.</source>
+        <translation>The folder %1 does not exist.</translation>
+    </message>
 </context>
 </TS>

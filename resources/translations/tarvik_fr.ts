@@ -913,5 +913,9 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>The card has no name of its own.</source>
         <translation>La carte n'a pas de nom propre.</translation>
     </message>
+    <message>
+        <source>The folder %1 does not exist.</source>
+        <translation>Le dossier %1 n'existe pas.</translation>
+    </message>
 </context>
 </TS>

@@ -909,5 +909,9 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>The card has no name of its own.</source>
         <translation>カードに固有の名前がありません。</translation>
     </message>
+    <message>
+        <source>The folder %1 does not exist.</source>
+        <translation>フォルダー %1 は存在しません。</translation>
+    </message>
 </context>
 </TS>

@@ -913,5 +913,9 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>The card has no name of its own.</source>
         <translation>O cartão não tem nome próprio.</translation>
     </message>
+    <message>
+        <source>The folder %1 does not exist.</source>
+        <translation>A pasta %1 não existe.</translation>
+    </message>
 </context>
 </TS>

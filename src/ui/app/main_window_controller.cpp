@@ -7,6 +7,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSlider>
@@ -142,6 +145,16 @@ void MainWindowController::openStartFolder() {
     }
     if (!folder.isEmpty()) catalogue_->chooseFolder(QFile::encodeName(folder).toStdString());
     if (fallback) card_->showFolderModel(QFile::encodeName(folder).toStdString());
+    // An empty list alone would look like a card without clips.
+    if (!startFolder_.isEmpty() && !QFileInfo(startFolder_).isDir()) {
+        auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Tarvik Viewer"),
+                                    tr_k("The folder %1 does not exist.").arg(QDir::toNativeSeparators(startFolder_)),
+                                    QMessageBox::Ok, v_.mainWindow);
+        box->setObjectName("missingFolderAlert");
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->setWindowModality(Qt::WindowModal);
+        box->open();
+    }
     emit startedUp();
 }
 

@@ -1,6 +1,7 @@
 // The main window follows the card: a recognised camera card shows its model
 // and its clips; without one the model is unknown and settings are off.
 #include <QLabel>
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -12,6 +13,7 @@
 #include "core/device/external_memory.h"
 #include "core/settings/m420/m420_model_types.h"
 #include "ui/app/card_controller.h"
+#include "ui/app/main_window.h"
 #include "ui/app/main_window_controller.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
@@ -93,6 +95,20 @@ private slots:
         QVERIFY(!c.views().modelTextField->text().isEmpty());
         QVERIFY(!c.views().settingsButton->isEnabled());
         fs::remove_all(demo);
+    }
+
+    // --folder of a folder that is not there says so over an empty list.
+    void missingStartFolderIsSaid() {
+        MainWindowController c;
+        c.setStartFolder("/no/such/folder");
+        QSignalSpy up(&c, &MainWindowController::startedUp);
+        c.start(10);
+        QTRY_COMPARE(up.count(), 1);
+        QMessageBox* box = nullptr;
+        QTRY_VERIFY((box = c.views().mainWindow->findChild<QMessageBox*>("missingFolderAlert")));
+        QVERIFY(box->text().contains("/no/such/folder"));
+        QCOMPARE(c.views().fileListTableView->model()->rowCount(), 0);
+        box->accept();
     }
 };
 

@@ -90,6 +90,28 @@ private slots:
         }
     }
 
+    // "1 things" never: each language counts with its own forms.
+    void countedTextsTakeEachLanguagesForms() {
+        struct Case {
+            std::string language;
+            int n;
+            const char* key;
+            QString text;
+        };
+        for (const Case& c : {Case{"en", 1, "%n clips", "1 clip"}, Case{"en", 2, "%n clips", "2 clips"},
+                              Case{"en", 1, "%n things need attention", "1 thing needs attention"},
+                              Case{"en", 3, "%n things need attention", "3 things need attention"},
+                              Case{"fr", 0, "%n trips", "0 trajet"}, Case{"fr", 1, "%n trips", "1 trajet"},
+                              Case{"fr", 2, "%n trips", "2 trajets"}, Case{"pt", 1, "%n notes", "1 observação"},
+                              Case{"pt", 5, "%n notes", "5 observações"}, Case{"ja", 1, "%n clips", "動画 1 本"},
+                              Case{"ja", 7, "%n clips", "動画 7 本"}}) {
+            setLanguages({c.language});
+            QCOMPARE(tr_k(c.key, c.n), c.text);
+        }
+        setLanguages({"de"});  // no table: the key, counted
+        QCOMPARE(tr_k("%n clips", 4), QString("4 clips"));
+    }
+
     void keysWithLineBreaksRoundTrip() {
         setLanguages({"en"});
         const char* withCrLf[] = {tarvik::keys::kFormatConfirm, tarvik::keys::kFormatInProgress,
