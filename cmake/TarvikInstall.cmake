@@ -40,3 +40,13 @@ if(TARVIK_BUILD_UI)
             DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${n}x${n}/apps)
   endforeach()
 endif()
+
+# Manual pages, with the version filled in.
+foreach(page tarvik tarvik-viewer)
+  if(page STREQUAL "tarvik-viewer" AND NOT TARVIK_BUILD_UI)
+    continue()
+  endif()
+  set(VERSION ${PROJECT_VERSION})
+  configure_file(${PROJECT_SOURCE_DIR}/resources/man/${page}.1 ${PROJECT_BINARY_DIR}/man/${page}.1 @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/man/${page}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endforeach()

@@ -20,6 +20,19 @@ done
 [ "$(od -An -tu1 -j16 -N8 "$prefix/share/icons/hicolor/48x48/apps/$id.png" | tr -s ' ')" = " 0 0 0 48 0 0 0 48" ] \
   || fail "48x48 icon has another size"
 
+# The manual pages render, and say what the programs say of themselves.
+for page in tarvik tarvik-viewer; do
+  text=$(MANWIDTH=80 man -l "$prefix/share/man/man1/$page.1" 2>&1) || fail "man -l $page.1: $text"
+  grep -q "^NAME" <<<"$text" || fail "$page.1 renders without a NAME section"
+  grep -q "$("$prefix/bin/tarvik" --version | cut -d' ' -f2)" <<<"$text" || fail "$page.1 names another version"
+done
+# Help and the version need no display.
+[ "$(env -u DISPLAY "$prefix/bin/tarvik-viewer" --version)" = "$("$prefix/bin/tarvik" --version | sed 's/tarvik/tarvik-viewer/')" ] \
+  || fail "tarvik-viewer --version"
+env -u DISPLAY "$prefix/bin/tarvik-viewer" --help | grep -q "^Usage: tarvik-viewer" || fail "tarvik-viewer --help"
+status=0; env -u DISPLAY "$prefix/bin/tarvik-viewer" --no-such-option >/dev/null 2>&1 || status=$?
+[ "$status" = 2 ] || fail "tarvik-viewer with an unknown option exits $status"
+
 desktop-file-validate "$prefix/share/applications/$id.desktop"
 appstreamcli validate --no-net --explain "$prefix/share/metainfo/$id.metainfo.xml"
 
