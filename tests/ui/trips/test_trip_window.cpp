@@ -4,6 +4,8 @@
 // the route exports and the card report lists what is wrong.
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSlider>
@@ -26,6 +28,7 @@
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/player/orvo_av_view.h"
+#include "ui/l10n/orvo_languages.h"
 #include "ui/library/trips/card_report_window.h"
 #include "ui/library/trips/route_export_controller.h"
 #include "ui/library/trips/trip_features.h"
@@ -206,6 +209,24 @@ private slots:
         QVERIFY(kml.readAll().contains("<LineString>"));
         answer.clear();  // cancelled
         QVERIFY(!trips().exportSelection());
+
+        // The same from the window's Trips menu, for those who never right-click;
+        // every point of the GPX has its time.
+        QMenu* menu = window_->views().mainMenu->findChild<QMenu*>("tripsMenu");
+        QVERIFY(menu);
+        emit menu->aboutToShow();
+        QAction* wholeTrip = nullptr;
+        for (QAction* a : menu->actions())
+            if (a->text() == tr_k("Export route of the whole trip...")) wholeTrip = a;
+        QVERIFY(wholeTrip && wholeTrip->isEnabled());
+        answer = dir_.filePath("from-menu.gpx");
+        answerFilter.clear();
+        wholeTrip->trigger();
+        QFile fromMenu(answer);
+        QVERIFY(fromMenu.open(QIODevice::ReadOnly));
+        const QByteArray menuText = fromMenu.readAll();
+        QVERIFY(menuText.count("<trkpt ") > 10);
+        QCOMPARE(menuText.count("<time>"), menuText.count("<trkpt "));
     }
 
     void cardReportListsTheBrokenClips() {
@@ -223,6 +244,7 @@ private slots:
         QVERIFY2(all.contains("Front without rear|manual_rec/20261121_131000_F.avi"), qPrintable(all));
         QVERIFY2(all.contains("No driving data|manual_rec/20261121_131000_F.avi"), qPrintable(all));
         QVERIFY(report->summaryLabel()->text().startsWith("13 clips in "));
+        QCOMPARE(report->verdictLabel()->text(), tr_k("%n things need attention", 2));
         QTest::qWait(200);
         QVERIFY(report->grab().save(shotPath("card-report.png")));
         report->close();

@@ -23,6 +23,7 @@ public:
 
     QTreeWidget* findingList() const { return list_; }
     QLabel* summaryLabel() const { return summary_; }
+    QLabel* verdictLabel() const { return verdict_; }
     bool isChecking() const { return checking_; }
 
 signals:
