@@ -41,12 +41,18 @@ if(TARVIK_BUILD_UI)
   endforeach()
 endif()
 
-# Manual pages, with the version filled in.
-foreach(page tarvik tarvik-viewer)
-  if(page STREQUAL "tarvik-viewer" AND NOT TARVIK_BUILD_UI)
-    continue()
-  endif()
-  set(VERSION ${PROJECT_VERSION})
+# Manual pages, with the version filled in, compressed as Debian has them.
+set(man_pages tarvik)
+if(TARVIK_BUILD_UI)
+  list(APPEND man_pages tarvik-viewer)
+endif()
+set(VERSION ${PROJECT_VERSION})
+foreach(page IN LISTS man_pages)
   configure_file(${PROJECT_SOURCE_DIR}/resources/man/${page}.1 ${PROJECT_BINARY_DIR}/man/${page}.1 @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/man/${page}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/man/${page}.1.gz
+    COMMAND gzip -9nf -k ${PROJECT_BINARY_DIR}/man/${page}.1
+    DEPENDS ${PROJECT_BINARY_DIR}/man/${page}.1)
+  list(APPEND man_gz ${PROJECT_BINARY_DIR}/man/${page}.1.gz)
 endforeach()
+add_custom_target(man_pages ALL DEPENDS ${man_gz})
+install(FILES ${man_gz} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

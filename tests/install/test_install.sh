@@ -22,7 +22,7 @@ done
 
 # The manual pages render, and say what the programs say of themselves.
 for page in tarvik tarvik-viewer; do
-  text=$(MANWIDTH=80 man -l "$prefix/share/man/man1/$page.1" 2>&1) || fail "man -l $page.1: $text"
+  text=$(MANWIDTH=80 man -l "$prefix/share/man/man1/$page.1.gz" 2>&1) || fail "man -l $page.1: $text"
   grep -q "^NAME" <<<"$text" || fail "$page.1 renders without a NAME section"
   grep -q "$("$prefix/bin/tarvik" --version | cut -d' ' -f2)" <<<"$text" || fail "$page.1 names another version"
 done
