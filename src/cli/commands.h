@@ -36,11 +36,19 @@ struct SettingsOptions {
     std::vector<std::string> cards;        // for Apply
 };
 
+struct ExportOptions {
+    std::string card, from, to, out;
+    std::string layout = "side";
+    int crf = 20;
+    bool verbose = false;
+};
+
 int telemetryCommand(const TelemetryOptions& o);
 int cardCommand(const CardOptions& o);
 int settingsCommand(const SettingsOptions& o);
 int tripsCommand(const CardFolderOptions& o);
 int checkCommand(const CardFolderOptions& o);
+int exportCommand(const ExportOptions& o);
 
 // Unless asked for, FFmpeg keeps quiet: a card of damaged clips would
 // otherwise bury the answer under one complaint per clip.

@@ -23,6 +23,7 @@ struct Options {
     CardOptions card;
     SettingsOptions settings;
     CardFolderOptions trips, check;
+    ExportOptions exporting;
 };
 
 void addTelemetry(CLI::App& app, TelemetryOptions& o) {
@@ -87,6 +88,22 @@ void addCardFolder(CLI::App& app, const char* name, const char* about, CardFolde
     c->add_flag("--verbose", o.verbose, "Let FFmpeg report what it finds wrong in the clips");
 }
 
+void addExport(CLI::App& app, ExportOptions& o) {
+    CLI::App* c = app.add_subcommand("export", "Hand an incident over: both cameras in one video, the original clips, "
+                                               "the route and samples, and the SHA-256 of every file.");
+    c->add_option("CARD", o.card, "The card's folder")->required()->check(CLI::ExistingDirectory);
+    c->add_option("--from", o.from, "The in point, \"YYYY-MM-DD HH:MM:SS\" as the camera's clock")->required();
+    c->add_option("--to", o.to, "The out point, in the same drive")->required();
+    c->add_option("--out", o.out, "The incident's folder (created; never on the card)")->required();
+    c->add_option("--layout", o.layout, "front, rear, side by side, or the rear as a picture in the front's corner")
+        ->check(CLI::IsMember({"front", "rear", "side", "pip"}))
+        ->capture_default_str();
+    c->add_option("--quality", o.crf, "H.264 quality, 0 (best) to 51")->check(CLI::Range(0, 51))->capture_default_str();
+    c->add_flag("--verbose", o.verbose, "Let FFmpeg report what it finds wrong in the clips");
+    c->footer("Progress goes to standard error; the folder's path to standard output once it is whole.\n"
+              "Check it with: cd FOLDER && sha256sum -c SHA256SUMS\n");
+}
+
 // The sub-command the failed command line was for, else the program.
 const CLI::App& concerned(const CLI::App& app) {
     const CLI::App* at = &app;
@@ -109,6 +126,7 @@ int main(int argc, char** argv) {
     addSettings(app, o.settings);
     addCardFolder(app, "trips", "The drives on a card: runs of clips recorded one after another.", o.trips);
     addCardFolder(app, "check", "What on a card needs attention.", o.check);
+    addExport(app, o.exporting);
     app.get_subcommand("check")->footer("Exit status: 0 when nothing needs attention, 1 when something does, 2 on a usage error.\n");
 
     try {
@@ -134,5 +152,6 @@ int main(int argc, char** argv) {
     if (command == "card") return cardCommand(o.card);
     if (command == "settings") return settingsCommand(o.settings);
     if (command == "trips") return tripsCommand(o.trips);
+    if (command == "export") return exportCommand(o.exporting);
     return checkCommand(o.check);
 }

@@ -1,0 +1,147 @@
+#include "core/library/incident/incident_exporter.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+
+#include "core/library/incident/evidence_copy.h"
+#include "core/library/incident/incident_record.h"
+#include "core/library/trips/trip_route.h"
+#include "core/util/atomic_file.h"
+#include "core/util/process_runner.h"
+
+namespace tarvik {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string ffmpegProgram() {
+    const char* env = std::getenv("TARVIK_FFMPEG");
+    return env && *env ? env : "ffmpeg";
+}
+
+// The span's clips as one trip, for the route and samples of its stretch.
+Trip tripOfSpan(const IncidentSpan& span) {
+    Trip t;
+    for (const IncidentPart& p : span.parts) t.clips.push_back(p.clip);
+    t.start = t.clips.front().start;
+    t.end = t.clips.back().start + std::int64_t(t.clips.back().seconds + 0.5);
+    return t;
+}
+
+// CSV rows (with their header) whose time lies within [from, to] seconds of the trip.
+std::string csvWithin(const std::string& rows, double from, double to) {
+    std::string out = "t,gx,gy,gz,lat,lng,speed\n";
+    std::size_t at = 0;
+    while (at < rows.size()) {
+        std::size_t end = rows.find('\n', at);
+        if (end == std::string::npos) end = rows.size();
+        const double t = std::atof(rows.c_str() + at);
+        if (t >= from - 1e-6 && t <= to + 1e-6) out.append(rows, at, end - at).push_back('\n');
+        at = end + 1;
+    }
+    return out;
+}
+
+bool sameOrBelow(const fs::path& inner, const fs::path& outer) {
+    auto i = inner.begin();
+    for (auto o = outer.begin(); o != outer.end(); ++o, ++i)
+        if (i == inner.end() || *i != *o) return false;
+    return true;
+}
+
+}  // namespace
+
+std::string IncidentExporter::destinationRefusal(const std::string& root, const std::string& folder) {
+    std::error_code ec;
+    // The folder may not exist yet: judge the nearest part of it that does.
+    fs::path existing = fs::absolute(folder, ec);
+    while (!existing.empty() && !fs::exists(existing, ec)) existing = existing.parent_path();
+    const fs::path card = fs::canonical(root, ec);
+    const fs::path target = fs::canonical(existing, ec);
+    if (card.empty() || target.empty()) return {};
+    if (sameOrBelow(target, card)) return "the folder is on the card: evidence is never written to the card it comes from";
+    return {};
+}
+
+bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to, const Progress& progress,
+                             std::string* why) {
+    auto fail = [why](std::string text) {
+        if (why) *why = std::move(text);
+        return false;
+    };
+    if (span.parts.empty()) return fail("the span holds no clip");
+    if (const std::string refusal = destinationRefusal(span.root, to.folder); !refusal.empty()) return fail(refusal);
+    if (layoutNeedsRear(to.video.layout))
+        for (const IncidentPart& p : span.parts)
+            if (p.clip.partner.empty()) return fail(p.clip.path + " has no rear clip; choose the front layout");
+    const fs::path dir = to.folder;
+    std::error_code ec;
+    fs::create_directories(dir / "originals", ec);
+    if (ec) return fail(to.folder + ": " + ec.message());
+    if (fs::exists(dir / "incident.mp4", ec)) return fail(to.folder + " already holds an incident");
+
+    IncidentRecord record;
+    record.span = &span;
+    record.programVersion = to.programVersion;
+    record.layout = layoutName(to.video.layout);
+    std::map<std::string, std::string> hashes;  // relative path -> SHA-256
+
+    // The originals first: they are the evidence, the rest is made from them.
+    for (const IncidentPart& p : span.parts) {
+        for (const std::string& clip : {p.clip.path, p.clip.partner}) {
+            if (clip.empty()) continue;
+            const fs::path relative = fs::path("originals") / fs::relative(clip, span.root, ec);
+            if (progress) progress("copying " + relative.string());
+            fs::create_directories((dir / relative).parent_path(), ec);
+            std::string error;
+            const std::string hash = copyWithSha256(clip, (dir / relative).string(), &error);
+            if (hash.empty()) return fail(error);
+            hashes[relative.string()] = hash;
+        }
+    }
+
+    // Encoded under a partial name and renamed last: a folder with an
+    // incident.mp4 is a whole incident.
+    if (progress) progress("encoding incident.mp4");
+    const fs::path partial = dir / "incident.partial.mp4";
+    auto failVideo = [&](std::string text) {
+        fs::remove(partial, ec);
+        return fail(std::move(text));
+    };
+    const ProcessResult r = ProcessRunner::run(ffmpegProgram(), incidentVideoArguments(span, to.video, partial.string()));
+    if (r.exitCode != 0 || !fs::exists(partial, ec))
+        return failVideo("ffmpeg could not make the video" + (r.output.empty() ? std::string() : ": " + r.output));
+    hashes["incident.mp4"] = sha256OfFile(partial.string());
+
+    if (progress) progress("writing the route and samples");
+    const Trip trip = tripOfSpan(span);
+    const double from = double(span.parts.front().clip.start - trip.start) + span.parts.front().from;
+    const double until = double(span.parts.back().clip.start - trip.start) + span.parts.back().to;
+    const TripRoute route = readTripRoute(trip, true);
+    std::vector<RoutePoint> points;
+    for (const RoutePoint& p : route.points)
+        if (p.seconds >= from - 1e-6 && p.seconds <= until + 1e-6) points.push_back(p);
+    const std::map<std::string, std::string> texts = {
+        {"route.gpx", RouteExporter::gpx(points, "incident " + tripTimeText(std::int64_t(span.start())), trip.start)},
+        {"telemetry.csv", csvWithin(route.csvRows, from, until)}};
+    for (const auto& [name, text] : texts) {
+        if (!writeFileAtomically((dir / name).string(), text)) return failVideo(name + ": cannot be written");
+        hashes[name] = sha256OfFile((dir / name).string());
+    }
+
+    record.files = hashes;
+    if (!writeFileAtomically((dir / "incident.json").string(), record.json()))
+        return failVideo("incident.json: cannot be written");
+    hashes["incident.json"] = sha256OfFile((dir / "incident.json").string());
+
+    std::string sums;
+    for (const auto& [name, hash] : hashes) sums += hash + "  " + name + "\n";
+    if (!writeFileAtomically((dir / "SHA256SUMS").string(), sums)) return failVideo("SHA256SUMS: cannot be written");
+    fs::rename(partial, dir / "incident.mp4", ec);
+    if (ec) return failVideo("incident.mp4: " + ec.message());
+    return true;
+}
+
+}  // namespace tarvik

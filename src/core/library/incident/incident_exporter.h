@@ -1,0 +1,37 @@
+#pragma once
+// An incident handed over as evidence: a folder that is never on the card,
+// holding the span as one video of both cameras (incident.mp4), every clip it
+// touches copied byte for byte (originals/), its route with times
+// (route.gpx), its samples (telemetry.csv), what it is (incident.json) and
+// the SHA-256 of every file in the form `sha256sum -c` checks (SHA256SUMS).
+// The card is only read.
+
+#include <functional>
+#include <string>
+
+#include "core/library/incident/incident_span.h"
+#include "core/library/incident/incident_video.h"
+
+namespace tarvik {
+
+struct IncidentExport {
+    IncidentVideoOptions video;
+    std::string folder;          // created when missing; must not hold an incident yet
+    std::string programVersion;  // written into incident.json
+};
+
+class IncidentExporter {
+public:
+    // What is being done, for a progress line.
+    using Progress = std::function<void(const std::string& step)>;
+
+    // True when the whole folder was written. Otherwise false with why, and
+    // no incident.mp4 in the folder.
+    static bool write(const IncidentSpan& span, const IncidentExport& to, const Progress& progress, std::string* why);
+
+    // Why `folder` cannot take an incident of the card at root ("" when it can):
+    // the card itself, or a folder on it.
+    static std::string destinationRefusal(const std::string& root, const std::string& folder);
+};
+
+}  // namespace tarvik

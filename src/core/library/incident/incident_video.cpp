@@ -1,0 +1,80 @@
+#include "core/library/incident/incident_video.h"
+
+#include <cstdio>
+
+namespace tarvik {
+
+namespace {
+
+std::string seconds(double s) {
+    char buf[32];
+    std::snprintf(buf, sizeof buf, "%.6f", s);
+    return buf;
+}
+
+// The parts of one camera joined into the stream `label`; `first` is the
+// index of its first input.
+std::string joined(std::size_t first, std::size_t count, const std::string& label) {
+    std::string graph;
+    for (std::size_t i = 0; i < count; ++i) graph += "[" + std::to_string(first + i) + ":v:0]";
+    return graph + "concat=n=" + std::to_string(count) + ":v=1:a=0,setsar=1[" + label + "]";
+}
+
+}  // namespace
+
+const char* layoutName(IncidentLayout layout) {
+    switch (layout) {
+    case IncidentLayout::Front: return "front";
+    case IncidentLayout::Rear: return "rear";
+    case IncidentLayout::Side: return "side";
+    case IncidentLayout::PictureInPicture: return "pip";
+    }
+    return "side";
+}
+
+bool layoutFromName(const std::string& name, IncidentLayout* layout) {
+    for (IncidentLayout l : {IncidentLayout::Front, IncidentLayout::Rear, IncidentLayout::Side,
+                             IncidentLayout::PictureInPicture})
+        if (name == layoutName(l)) return *layout = l, true;
+    return false;
+}
+
+bool layoutNeedsRear(IncidentLayout layout) { return layout != IncidentLayout::Front; }
+
+std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
+                                                const std::string& output) {
+    std::vector<std::string> args = {"-nostdin", "-hide_banner", "-loglevel", "error", "-y"};
+    const bool front = o.layout != IncidentLayout::Rear;
+    const bool rear = layoutNeedsRear(o.layout);
+    // An input's -ss and -t, given before it, decode from the key frame
+    // before the in point and drop what lies outside: exact to the frame.
+    auto inputs = [&](bool ofRear) {
+        for (const IncidentPart& p : span.parts) {
+            args.insert(args.end(), {"-ss", seconds(p.from), "-t", seconds(p.to - p.from), "-i",
+                                     ofRear ? p.clip.partner : p.clip.path});
+        }
+    };
+    const std::size_t n = span.parts.size();
+    if (front) inputs(false);
+    if (rear) inputs(true);
+    std::string graph;
+    switch (o.layout) {
+    case IncidentLayout::Front:
+    case IncidentLayout::Rear: graph = joined(0, n, "v"); break;
+    case IncidentLayout::Side:
+        // The rear at the front's height, beside it.
+        graph = joined(0, n, "f") + ";" + joined(n, n, "r") + ";[r][f]scale2ref=w=-2:h=main_h[rs][fs];[fs][rs]hstack=inputs=2[v]";
+        break;
+    case IncidentLayout::PictureInPicture:
+        // The rear at a third of the front's width, in its top right corner.
+        graph = joined(0, n, "f") + ";" + joined(n, n, "r") +
+                ";[r][f]scale2ref=w=trunc(main_w/6)*2:h=-2[rs][fs];[fs][rs]overlay=x=W-w-16:y=16:eof_action=pass[v]";
+        break;
+    }
+    args.insert(args.end(), {"-filter_complex", graph, "-map", "[v]", "-an", "-c:v", "libx264", "-preset", "veryfast",
+                             "-crf", std::to_string(o.crf), "-pix_fmt", "yuv420p", "-movflags", "+faststart", "-f",
+                             "mp4", output});
+    return args;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,30 @@
+#pragma once
+// The ffmpeg command that makes incident.mp4: every part of the span trimmed
+// to the frame at its in and out points, the parts joined without a gap, the
+// two cameras placed by the layout, all in one filter graph, so that no frame
+// is decoded twice and none by the program itself.
+
+#include <string>
+#include <vector>
+
+#include "core/library/incident/incident_span.h"
+
+namespace tarvik {
+
+enum class IncidentLayout { Front, Rear, Side, PictureInPicture };
+
+// "front", "rear", "side", "pip".
+const char* layoutName(IncidentLayout layout);
+bool layoutFromName(const std::string& name, IncidentLayout* layout);
+bool layoutNeedsRear(IncidentLayout layout);
+
+struct IncidentVideoOptions {
+    IncidentLayout layout = IncidentLayout::Side;
+    int crf = 20;  // H.264 quality: lower is better and larger
+};
+
+// ffmpeg's arguments writing the span to `output` (an .mp4).
+std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& options,
+                                                const std::string& output);
+
+}  // namespace tarvik

@@ -1,0 +1,164 @@
+// `tarvik export` over a generated drive of front/rear pairs, read back by the
+// tools a claims handler would use: sha256sum -c, ffprobe, gpsbabel; and the
+// card byte for byte as it was, whatever happened.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+
+#include "cardgen/card_plan.h"
+#include "core/library/incident/incident_exporter.h"
+#include "core/util/process_runner.h"
+#include "core/util/sha256.h"
+
+using namespace tarvik;
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Folder {
+    fs::path path;
+    explicit Folder(const std::string& name)
+        : path(fs::temp_directory_path() / ("tarvik-incident-" + std::to_string(getpid()) + "-" + name)) {
+        fs::remove_all(path);
+    }
+    ~Folder() { fs::remove_all(path); }
+};
+
+// Every file below root with its SHA-256.
+std::map<std::string, std::string> tree(const fs::path& root) {
+    std::map<std::string, std::string> out;
+    for (const auto& e : fs::recursive_directory_iterator(root)) {
+        if (!e.is_regular_file()) continue;
+        std::ifstream in(e.path(), std::ios::binary);
+        std::string bytes((std::istreambuf_iterator<char>(in)), {});
+        Sha256 h;
+        h.update(bytes.data(), bytes.size());
+        out[fs::relative(e.path(), root).string()] = h.hexDigest();
+    }
+    return out;
+}
+
+ProcessResult runTarvik(const std::vector<std::string>& args) {
+    return ProcessRunner::run(std::string(TARVIK_BINARY_DIR) + "/tarvik", args, std::chrono::minutes(5));
+}
+
+ProcessResult shell(const std::string& command) {
+    return ProcessRunner::run("/bin/sh", {"-c", command}, std::chrono::minutes(2));
+}
+
+// Three pairs of four seconds at ten frames a second, from 10:00:00 on.
+struct Drive {
+    Folder card{"card"};
+    Drive() {
+        std::string error;
+        EXPECT_TRUE(cardgen::writeCard(cardgen::tripCardPlan(3, 4, 64, 36), card.path, &error)) << error;
+    }
+};
+
+}  // namespace
+
+TEST(Sha256, KnownDigests) {
+    struct Case {
+        std::string text;
+        const char* digest;
+    };
+    for (const Case& c : {Case{"", "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855"},
+                          Case{"abc", "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad"},
+                          Case{std::string(1000000, 'a'), "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0"}}) {
+        Sha256 whole, pieces;
+        whole.update(c.text.data(), c.text.size());
+        // Pieces that straddle the 64-byte blocks every way.
+        for (std::size_t at = 0, step = 1; at < c.text.size(); at += step, step = step % 97 + 1)
+            pieces.update(c.text.data() + at, std::min(step, c.text.size() - at));
+        EXPECT_EQ(whole.hexDigest(), c.digest);
+        EXPECT_EQ(pieces.hexDigest(), c.digest);
+    }
+}
+
+TEST(IncidentExport, SpanAcrossClipsIsOneExactVideoWithItsEvidence) {
+    Drive drive;
+    const auto before = tree(drive.card.path);
+    Folder out("side");
+    // 10:00:02 to 10:00:07: the last two seconds of the first pair, three of the second.
+    ProcessResult r = runTarvik({"export", drive.card.path.string(), "--from", "2026-11-21 10:00:02", "--to",
+                              "2026-11-21 10:00:07", "--out", out.path.string()});
+    ASSERT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_NE(r.output.find("encoding incident.mp4"), std::string::npos);  // progress on the way
+
+    ProcessResult sums = shell("cd '" + out.path.string() + "' && sha256sum -c SHA256SUMS");
+    EXPECT_EQ(sums.exitCode, 0) << sums.output;
+    for (const char* f : {"incident.mp4", "incident.json", "route.gpx", "telemetry.csv",
+                          "originals/cont_rec/20261121_100000_F.avi", "originals/cont_rec/20261121_100000_R.avi",
+                          "originals/cont_rec/20261121_100004_F.avi", "originals/cont_rec/20261121_100004_R.avi"})
+        EXPECT_NE(sums.output.find(std::string(f) + ": OK"), std::string::npos) << f << "\n" << sums.output;
+    EXPECT_EQ(sums.output.find("20261121_100008"), std::string::npos);  // the third pair is not touched
+    // The originals are the card's bytes.
+    const auto copied = tree(out.path / "originals");
+    for (const auto& [name, hash] : copied) EXPECT_EQ(hash, before.at(name)) << name;
+
+    // Five seconds at ten frames a second, both cameras side by side.
+    ProcessResult probe = shell("ffprobe -v error -count_frames -select_streams v:0 -show_entries "
+                                "stream=width,height,nb_read_frames -of csv=p=0 '" + (out.path / "incident.mp4").string() + "'");
+    EXPECT_EQ(probe.output, "128,36,50\n");
+
+    // The route holds the span's points with their times, as gpsbabel reads them.
+    ProcessResult gpx = shell("gpsbabel -t -i gpx -f '" + (out.path / "route.gpx").string() + "' -o gpx -F -");
+    ASSERT_EQ(gpx.exitCode, 0) << gpx.output;
+    std::vector<std::string> times;
+    const std::regex time("<time>2026-11-21T(\\d\\d:\\d\\d:\\d\\d)");
+    for (auto it = std::sregex_iterator(gpx.output.begin(), gpx.output.end(), time); it != std::sregex_iterator(); ++it)
+        times.push_back((*it)[1]);
+    ASSERT_FALSE(times.empty());
+    EXPECT_GE(times.front(), "10:00:02");
+    EXPECT_LE(times.back(), "10:00:07");
+
+    std::ifstream json(out.path / "incident.json");
+    const std::string record((std::istreambuf_iterator<char>(json)), {});
+    EXPECT_NE(record.find("\"from\": \"2026-11-21 10:00:02.0\""), std::string::npos) << record;
+    EXPECT_NE(record.find("\"seconds\": 5.0"), std::string::npos) << record;
+    EXPECT_EQ(tree(drive.card.path), before);
+}
+
+TEST(IncidentExport, RefusalsLeaveNoVideoAndTheCardAsItWas) {
+    Drive drive;
+    const auto before = tree(drive.card.path);
+    struct Case {
+        const char* what;
+        const char* from;
+        const char* to;
+        std::string out;
+        const char* layout;
+        int exitCode;
+    };
+    Folder out("refused");
+    const std::string dest = out.path.string(), onCard = (drive.card.path / "evidence").string();
+    for (const Case& c : {Case{"destination on the card", "2026-11-21 10:00:02", "2026-11-21 10:00:05", onCard, "side", 1},
+                          Case{"span past the drive", "2026-11-21 10:00:02", "2026-11-21 10:00:30", dest, "side", 1},
+                          Case{"no clip at the start", "2026-11-21 09:00:00", "2026-11-21 10:00:05", dest, "side", 1},
+                          Case{"out before in", "2026-11-21 10:00:02", "2026-11-21 10:00:01", dest, "side", 1},
+                          Case{"not a time", "ten o'clock", "2026-11-21 10:00:05", dest, "side", 2},
+                          Case{"unknown layout", "2026-11-21 10:00:02", "2026-11-21 10:00:05", dest, "mosaic", 2}}) {
+        ProcessResult r = runTarvik({"export", drive.card.path.string(), "--from", c.from, "--to", c.to, "--out", c.out,
+                                     "--layout", c.layout});
+        EXPECT_EQ(r.exitCode, c.exitCode) << c.what << "\n" << r.output;
+        EXPECT_FALSE(fs::exists(fs::path(c.out) / "incident.mp4")) << c.what;
+        EXPECT_EQ(tree(drive.card.path), before) << c.what;
+    }
+
+    // A rear clip gone: side by side cannot be made, the front alone can.
+    fs::remove(drive.card.path / "cont_rec/20261121_100004_R.avi");
+    Folder front("front");
+    ProcessResult side = runTarvik({"export", drive.card.path.string(), "--from", "2026-11-21 10:00:02", "--to",
+                                 "2026-11-21 10:00:06", "--out", dest});
+    EXPECT_EQ(side.exitCode, 1);
+    EXPECT_NE(side.output.find("no rear clip"), std::string::npos) << side.output;
+    EXPECT_FALSE(fs::exists(out.path / "incident.mp4"));
+    ProcessResult alone = runTarvik({"export", drive.card.path.string(), "--from", "2026-11-21 10:00:02", "--to",
+                                  "2026-11-21 10:00:06", "--layout", "front", "--out", front.path.string()});
+    EXPECT_EQ(alone.exitCode, 0) << alone.output;
+    EXPECT_EQ(shell("cd '" + front.path.string() + "' && sha256sum -c --quiet SHA256SUMS").exitCode, 0);
+}
