@@ -1,5 +1,7 @@
 #include "core/media/libav_input.h"
 
+#include "core/util/regular_file.h"
+
 extern "C" {
 #include <libavformat/avformat.h>
 #include <libavutil/mem.h>
@@ -19,9 +21,9 @@ constexpr int kBufferSize = 4096;
 }  // namespace
 
 LibavInput::LibavInput(const std::string& path) {
-    fd_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     struct stat st {};
-    if (fd_ < 0 || ::fstat(fd_, &st) != 0 || !S_ISREG(st.st_mode)) return;
+    fd_ = openRegularFile(path, &st);
+    if (fd_ < 0) return;
     size_ = st.st_size;
     auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferSize));
     if (!buffer) return;

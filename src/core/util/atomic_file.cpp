@@ -1,5 +1,7 @@
 #include "core/util/atomic_file.h"
 
+#include "core/util/regular_file.h"
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -73,13 +75,9 @@ bool writeFileAtomically(const std::string& path, const void* data, std::size_t 
 }
 
 bool readFileHead(const std::string& path, std::size_t maxBytes, std::string* out, std::size_t* fileSize) {
-    int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return false;
     struct stat st {};
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd);
-        return false;
-    }
+    const int fd = openRegularFile(path, &st);
+    if (fd < 0) return false;
     if (fileSize) *fileSize = static_cast<std::size_t>(st.st_size);
     std::string buf;
     buf.resize(std::min<std::size_t>(maxBytes, static_cast<std::size_t>(st.st_size)));

@@ -4,7 +4,6 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <map>
 #include <set>
@@ -17,6 +16,7 @@
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/m420/m420_setting_manager.h"
 #include "core/telemetry/orvo_clip_data.h"
+#include "core/util/atomic_file.h"
 
 namespace tarvik {
 
@@ -45,17 +45,19 @@ SettingsState readSettings(const std::string& root) {
     std::error_code ec;
     if (!record.empty()) {
         s.present = true;
-        std::ifstream f(record, std::ios::binary);
-        s.readable = f.good() && f.peek() != std::ifstream::traits_type::eof();
-        s.length = static_cast<std::int64_t>(fs::file_size(record, ec));
-        if (ec) s.length = -1, s.readable = false;
+        std::string head;
+        std::size_t size = 0;
+        s.readable = readFileHead(record, 1, &head, &size) && !head.empty();
+        s.length = s.readable ? static_cast<std::int64_t>(size) : -1;
     } else {
         for (const char* folder : {"setting", "SETTING"}) {
             const fs::path p = fs::path(root) / folder / "blackbox.cfg";
-            if (fs::is_regular_file(p, ec)) {
+            if (fs::exists(fs::symlink_status(p, ec))) {
+                std::string head;
+                std::size_t size = 0;
                 s.present = true;
-                s.readable = std::ifstream(p, std::ios::binary).good();
-                s.length = static_cast<std::int64_t>(fs::file_size(p, ec));
+                s.readable = readFileHead(p.string(), 1, &head, &size);
+                s.length = s.readable ? static_cast<std::int64_t>(size) : -1;
             }
         }
     }

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/util/regular_file.h"
+
 namespace tarvik {
 
 namespace {
@@ -142,13 +144,9 @@ ContainerInfo inspectAvi(int fd, std::uint64_t fileSize) {
 
 ContainerInfo inspectClipContainer(const std::string& path) {
     ContainerInfo info;
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return info;
     struct stat st {};
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd);
-        return info;
-    }
+    const int fd = openRegularFile(path, &st);
+    if (fd < 0) return info;
     const auto size = static_cast<std::uint64_t>(st.st_size);
     unsigned char h[12];
     if (size == 0) {
