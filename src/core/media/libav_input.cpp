@@ -1,6 +1,7 @@
 #include "core/media/libav_input.h"
 
 #include "core/util/regular_file.h"
+#include "core/util/unrecorded_space.h"
 
 extern "C" {
 #include <libavformat/avformat.h>
@@ -23,7 +24,8 @@ constexpr int kBufferSize = 4096;
 LibavInput::LibavInput(const std::string& path) {
     struct stat st {};
     fd_ = openRegularFile(path, &st);
-    if (fd_ < 0) return;
+    // libav would probe megabytes of a preallocated clip's zeros with every demuxer.
+    if (fd_ < 0 || startsUnrecorded(fd_)) return;
     size_ = st.st_size;
     auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferSize));
     if (!buffer) return;
