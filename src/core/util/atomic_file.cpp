@@ -47,6 +47,10 @@ void removeStaleTemporaries(const std::string& dir, const std::string& base) {
 
 }  // namespace
 
+bool isAtomicWriteLeftover(const std::string& name) {
+    return name.size() > 1 && name[0] == '.' && name.find(kTempInfix) != std::string::npos;
+}
+
 bool writeFileAtomically(const std::string& path, const void* data, std::size_t size) {
     auto slash = path.rfind('/');
     const std::string dir = slash == std::string::npos ? "." : (slash == 0 ? "/" : path.substr(0, slash));

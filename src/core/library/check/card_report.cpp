@@ -9,6 +9,7 @@
 #include <set>
 #include <algorithm>
 
+#include "core/library/check/write_leftovers.h"
 #include "core/library/clip_catalogue.h"
 #include "core/library/trips/clip_container.h"
 #include "core/library/trips/clip_telemetry_loader.h"
@@ -141,6 +142,8 @@ CardReport checkCard(const std::string& root) {
     else if (s.expectedLength > 0 && s.length != s.expectedLength)
         add(r, S::Attention, "settings", M420SettingManager::recordFilePath(root),
             "length " + std::to_string(s.length) + ", expected " + std::to_string(s.expectedLength));
+    for (const std::string& leftover : findWriteLeftovers(root))
+        add(r, S::Note, "write-leftover", leftover, "left by an interrupted settings write; the next write removes it");
 
     struct statvfs v {};
     if (::statvfs(root.c_str(), &v) == 0) {
