@@ -30,11 +30,12 @@ TEST(EditEdges, EachWidthTakesItsLastValueAndNotOneMore) {
         SCOPED_TRACE("model type " + std::to_string(type));
         struct Case {
             const char* name;
-            std::string last, beyond, below;
+            std::string first, last, beyond, below;
         };
-        for (const Case& c : {Case{"iot_onoff", "255", "256", "-1"},
-                              Case{"front_resolution", "2147483647", "2147483648", "-2147483649"}}) {
+        for (const Case& c : {Case{"iot_onoff", "0", "255", "256", "-1"},
+                              Case{"front_resolution", "-2147483648", "2147483647", "2147483648", "-2147483649"}}) {
             std::string error;
+            EXPECT_TRUE(planSettingsEdit(*s, {{c.name, c.first}}, &error)) << c.name << error;
             EXPECT_TRUE(planSettingsEdit(*s, {{c.name, c.last}}, &error)) << c.name << error;
             EXPECT_FALSE(planSettingsEdit(*s, {{c.name, c.beyond}}, &error)) << c.name;
             EXPECT_NE(error.find("whole number from"), std::string::npos) << error;

@@ -93,4 +93,14 @@ TEST(HostileProfiles, TheGrammarsEdgesStillRead) {
     EXPECT_NE(error.find("text after the end"), std::string::npos) << error;
     EXPECT_FALSE(parseSettingsProfile(profile(R"("a":"\ud800")"), &error));
     EXPECT_NE(error.find("lone surrogate"), std::string::npos) << error;
+    // The largest whole number read, and the deepest nesting (a value eight
+    // levels down: refused for its kind, not for its depth).
+    const auto big = parseSettingsProfile(profile(R"("wdr":9223372036854775807,"x":-9223372036854775808)"), &error);
+    ASSERT_TRUE(big) << error;
+    EXPECT_EQ(big->settings[0].value, "9223372036854775807");
+    EXPECT_EQ(big->settings[1].value, "-9223372036854775808");
+    EXPECT_FALSE(parseSettingsProfile(profile(R"("wdr":[[[[[[1]]]]]])"), &error));
+    EXPECT_NE(error.find("a number or a short text"), std::string::npos) << error;
+    EXPECT_FALSE(parseSettingsProfile(profile(R"("wdr":[[[[[[[1]]]]]]])"), &error));
+    EXPECT_NE(error.find("nested too deeply"), std::string::npos) << error;
 }
