@@ -52,6 +52,15 @@ TEST(EditEdges, EachWidthTakesItsLastValueAndNotOneMore) {
     FAIL() << "no model with 1-byte fields";
 }
 
+TEST(EditEdges, KrtHoursFromMinusTwelveToFourteen) {
+    TempCard card;
+    const auto s = cardOf(card, m420model::Q260);
+    ASSERT_TRUE(s);
+    for (const char* ok : {"-12", "14", "14.000000", "5.5"}) EXPECT_TRUE(planSettingsEdit(*s, {{"local_time", ok}}, nullptr)) << ok;
+    for (const char* bad : {"-12.5", "14.01", "15", "inf", "nan"})
+        EXPECT_FALSE(planSettingsEdit(*s, {{"local_time", bad}}, nullptr)) << bad;
+}
+
 TEST(EditEdges, ASameSizeChangeBetweenReadAndWriteIsSeen) {
     TempCard card;
     const auto s = cardOf(card, m420model::M640);

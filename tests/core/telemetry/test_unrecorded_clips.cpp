@@ -111,6 +111,13 @@ TEST(UnrecordedClips, RecordedAtItsStartKeepsWhatItRecorded) {
         {"krt", aviClip(true).bytes, krt},
         {"krt indexed", aviClip(true).indexed(), krt},
     };
+    // Text at the start, zeros after: not a tail-text clip (its text ends the file).
+    std::string lines = "XXXXXX";
+    for (int i = 0; i < 40; ++i) lines += std::to_string(i) + ",37.5,126.25,42,1,-2,130\n";
+    const std::string text = preallocated(dir, "text", lines);
+    const auto [textSamples, textTook] = timed(readers()[2].read, text);
+    EXPECT_EQ(textSamples, 0);
+    EXPECT_LT(textTook, kMoments);
     // A recorded start without telemetry: every reader tried, none reads on into the zeros.
     Avi pictures;
     for (int i = 0; i < 50; ++i) pictures.chunk("00dc", std::string(3000, '\x5a'));
