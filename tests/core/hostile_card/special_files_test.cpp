@@ -122,3 +122,24 @@ TEST(SpecialFiles, TheViewersCardDetectionGetsThrough) {
         }
     }
 }
+
+TEST(SpecialFiles, InAClipsPlaceTheClipIsUnreadable) {
+    TempCard card;
+    std::string error;
+    ASSERT_TRUE(cardgen::writeSettingsFiles(card.root(), m420model::M640, &error)) << error;
+    for (const char* clip : {"cont_rec/20261121_083000_F.avi", "cont_rec/20261121_083000_R.mp4", "cont_rec/20261121_083100.srt"})
+        ASSERT_TRUE(test::makeSpecial(card.file(clip), Special::Fifo));
+    const std::vector<std::vector<std::string>> commands = {
+        {"check", card.path()},
+        {"trips", card.path(), "--json"},
+        {"telemetry", card.file("cont_rec/20261121_083000_F.avi").string()},
+        {"telemetry", card.file("cont_rec/20261121_083000_R.mp4").string()},
+        {"telemetry", card.file("cont_rec/20261121_083100.srt").string()},
+    };
+    for (const auto& args : commands) {
+        const Timed run = runTarvik(args);
+        EXPECT_FALSE(run.result.timedOut) << args[0];
+        EXPECT_LT(run.took, kLimit) << args[0];
+        EXPECT_TRUE(run.result.exitCode == 0 || run.result.exitCode == 1) << args[0] << run.result.output;
+    }
+}
