@@ -48,8 +48,9 @@ SettingsState readSettings(const std::string& root) {
         s.present = true;
         std::string head;
         std::size_t size = 0;
-        s.readable = readFileHead(record, 1, &head, &size) && !head.empty();
-        s.length = s.readable ? static_cast<std::int64_t>(size) : -1;
+        const bool opened = readFileHead(record, 1, &head, &size);
+        s.readable = opened && !head.empty();
+        s.length = opened ? static_cast<std::int64_t>(size) : -1;
     } else {
         for (const char* folder : {"setting", "SETTING"}) {
             const fs::path p = fs::path(root) / folder / "blackbox.cfg";
