@@ -9,7 +9,7 @@ packages=(
   qt6-webchannel-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev
   qt6-qpa-plugins libqt6svg6 qt6-translations-l10n
   libmpv-dev ffmpeg libjs-leaflet libavformat-dev libavcodec-dev libavutil-dev
-  libimage-exiftool-perl liburing-dev libcli11-dev gpsbabel lintian
+  libimage-exiftool-perl liburing-dev libcli11-dev nlohmann-json3-dev gpsbabel lintian
   libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev
   xvfb xauth libgl1-mesa-dri libglx-mesa0

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/util/regular_file.h"
+
 namespace tarvik {
 
 namespace {
@@ -53,7 +55,7 @@ ClipFileState checkClipFile(const std::string& path) {
     struct stat st {};
     if (stat(path.c_str(), &st) != 0) return errno == EACCES ? ClipFileState::Unreadable : ClipFileState::Missing;
     if (!S_ISREG(st.st_mode)) return ClipFileState::Unreadable;
-    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    const int fd = openRegularFile(path, &st);
     if (fd < 0) return ClipFileState::Unreadable;
     ClipFileState state = ClipFileState::Ok;
     const auto size = static_cast<std::uint64_t>(st.st_size);

@@ -1,5 +1,8 @@
 #include "core/media/libav_input.h"
 
+#include "core/util/regular_file.h"
+#include "core/util/unrecorded_space.h"
+
 extern "C" {
 #include <libavformat/avformat.h>
 #include <libavutil/mem.h>
@@ -19,9 +22,10 @@ constexpr int kBufferSize = 4096;
 }  // namespace
 
 LibavInput::LibavInput(const std::string& path) {
-    fd_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     struct stat st {};
-    if (fd_ < 0 || ::fstat(fd_, &st) != 0 || !S_ISREG(st.st_mode)) return;
+    fd_ = openRegularFile(path, &st);
+    // libav would probe megabytes of a preallocated clip's zeros with every demuxer.
+    if (fd_ < 0 || startsUnrecorded(fd_)) return;
     size_ = st.st_size;
     auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferSize));
     if (!buffer) return;

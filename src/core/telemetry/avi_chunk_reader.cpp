@@ -25,6 +25,15 @@ std::uint32_t le32(const unsigned char* p) {
            static_cast<std::uint32_t>(p[2]) << 16 | static_cast<std::uint32_t>(p[3]) << 24;
 }
 
+// A chunk's tag is four printable characters; anything else is where the
+// recording stopped (preallocated zeros) or the walk lost its step, and
+// nothing after it is found by walking on.
+bool isChunkTag(const unsigned char* c) {
+    for (int i = 0; i < 4; ++i)
+        if (c[i] < 0x20 || c[i] > 0x7e) return false;
+    return true;
+}
+
 bool isTextChunk(const unsigned char* c) {
     return c[0] == '0' && (c[1] == '2' || c[1] == '3') && c[2] == 't' && c[3] == 'x';
 }
@@ -186,6 +195,7 @@ bool walkGap(const BoundedFile& file, std::uint64_t from, std::uint64_t to, cons
     std::uint64_t pos = from;
     while (pos + 8 <= to && !walk.raw.full()) {
         if (!get(pos, h, 8)) return false;
+        if (!isChunkTag(h)) return true;
         const std::uint64_t size = le32(h + 4);
         pos += 8;
         if (isTextChunk(h)) {
@@ -288,7 +298,7 @@ int readAviChunks(const BoundedFile& file, AviFamily family, OrvoClipData& out) 
     while (pos + 8 <= n && !walk->raw.full()) {
         // Headers are read, not mapped: touching one page per chunk of a long
         // clip costs more than the read.
-        if (!window->get(pos, h, 8)) break;
+        if (!window->get(pos, h, 8) || !isChunkTag(h)) break;
         const std::uint64_t size = le32(h + 4);
         pos += 8;
         if (std::memcmp(h, "LIST", 4) == 0) {

@@ -5,16 +5,21 @@
 #include "core/telemetry/telemetry_readers.h"
 #include "core/telemetry/telemetry_records.h"
 #include "core/util/bounded_file.h"
+#include "core/util/unrecorded_space.h"
 
 namespace tarvik {
 
 namespace {
 // A file that shrank or vanished under the reader (a card pulled out) gives
-// no samples rather than some.
+// no samples rather than some; one never recorded gives none at once.
 template <typename Reader>
 int readFile(const std::string& path, OrvoClipData& out, Reader reader, bool random = false) {
     BoundedFile file;
     if (!file.open(path, random)) return 0;
+    if (startsUnrecorded(file)) {
+        out.setGpsDataCount(0);
+        return 0;
+    }
     const int n = reader(file);
     if (file.intact()) return n;
     out.setGpsDataCount(0);

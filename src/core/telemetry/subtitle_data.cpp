@@ -6,6 +6,7 @@
 #include "core/telemetry/text_fields.h"
 #include "core/telemetry/text_stream.h"
 #include "core/util/bounded_file.h"
+#include "core/util/unrecorded_space.h"
 
 namespace tarvik {
 
@@ -36,7 +37,7 @@ void SubtitleData::clear() {
 void SubtitleData::loadFromPath(const std::string& path) {
     clear();
     BoundedFile file;
-    if (!file.open(path) || !text::isValidUtf8(file, 0)) return;
+    if (!file.open(path) || startsUnrecorded(file) || !text::isValidUtf8(file, 0)) return;
     // CR and LF are separators of their own: a CR LF file has an empty
     // line after every line, which closes its cue before the data line.
     text::LineReader lines(file, 0, file.size(), "\r\n");

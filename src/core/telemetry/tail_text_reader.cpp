@@ -30,6 +30,12 @@ std::size_t textStart(const BoundedFile& file) {
         s = static_cast<std::size_t>(static_cast<const unsigned char*>(hit) - d);
         if (std::memcmp(d + s, kMarker, kMarkerLen) == 0) return base + s + kMarkerLen;
     }
+    // Without the marker only a file of text is read whole; text holds no
+    // NUL, and a clip's zeros (a preallocated file's gigabytes of them) would
+    // otherwise all be read as valid text.
+    unsigned char head[512];
+    const std::size_t headLen = std::min(sizeof head, n);
+    if (std::memchr(d, 0, kTailWindow) || !file.readAt(0, head, headLen) || std::memchr(head, 0, headLen)) return n;
     return kMarkerLen;
 }
 }  // namespace

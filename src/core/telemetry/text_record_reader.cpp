@@ -14,6 +14,7 @@
 #include "core/telemetry/telemetry_records.h"
 #include "core/telemetry/text_fields.h"
 #include "core/util/bounded_file.h"
+#include "core/util/unrecorded_space.h"
 
 namespace tarvik::readers {
 
@@ -103,7 +104,10 @@ public:
                 start_ = from;
                 len_ = std::min(kWindow, n - from);
                 d_ = file_.readAt(start_, buf_.data(), len_) ? buf_.data() : nullptr;
-                if (!d_) return n;
+                // A window of nothing but zeros is space the camera has not
+                // recorded yet (cheap to tell: recorded data differs from its
+                // neighbour within a few bytes).
+                if (!d_ || allZero(d_, len_)) return n;
             }
             const std::size_t last = len_ - 4;  // the last tag start inside the window
             std::size_t p = scanWindow(d_, from - start_, len_);

@@ -1,5 +1,7 @@
 #include "core/util/atomic_file.h"
 
+#include "core/util/regular_file.h"
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -45,6 +47,10 @@ void removeStaleTemporaries(const std::string& dir, const std::string& base) {
 
 }  // namespace
 
+bool isAtomicWriteLeftover(const std::string& name) {
+    return name.size() > 1 && name[0] == '.' && name.find(kTempInfix) != std::string::npos;
+}
+
 bool writeFileAtomically(const std::string& path, const void* data, std::size_t size) {
     auto slash = path.rfind('/');
     const std::string dir = slash == std::string::npos ? "." : (slash == 0 ? "/" : path.substr(0, slash));
@@ -73,13 +79,9 @@ bool writeFileAtomically(const std::string& path, const void* data, std::size_t 
 }
 
 bool readFileHead(const std::string& path, std::size_t maxBytes, std::string* out, std::size_t* fileSize) {
-    int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return false;
     struct stat st {};
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd);
-        return false;
-    }
+    const int fd = openRegularFile(path, &st);
+    if (fd < 0) return false;
     if (fileSize) *fileSize = static_cast<std::size_t>(st.st_size);
     std::string buf;
     buf.resize(std::min<std::size_t>(maxBytes, static_cast<std::size_t>(st.st_size)));

@@ -16,6 +16,10 @@ inline bool writeFileAtomically(const std::string& path, const std::string& byte
     return writeFileAtomically(path, bytes.data(), bytes.size());
 }
 
+// Whether a file name is one of this program's temporary files: a write
+// killed between creating and renaming it leaves one behind.
+bool isAtomicWriteLeftover(const std::string& name);
+
 // Reads at most maxBytes from the start of a file; false when it cannot be
 // opened or read. *fileSize (if given) receives the file's full length.
 bool readFileHead(const std::string& path, std::size_t maxBytes, std::string* out,

@@ -1,5 +1,7 @@
 #include "core/util/bounded_file.h"
 
+#include "core/util/regular_file.h"
+
 #include <fcntl.h>
 #include <cerrno>
 #include <cstring>
@@ -20,13 +22,9 @@ void BoundedFile::close() {
 
 bool BoundedFile::open(const std::string& path, bool random) {
     close();
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return false;
     struct stat st {};
-    if (fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd);
-        return false;
-    }
+    const int fd = openRegularFile(path, &st);
+    if (fd < 0) return false;
     posix_fadvise(fd, 0, 0, random ? POSIX_FADV_RANDOM : POSIX_FADV_SEQUENTIAL);
     fd_ = fd;
     size_ = static_cast<std::size_t>(st.st_size);

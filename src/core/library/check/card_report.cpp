@@ -4,12 +4,12 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <map>
 #include <set>
 #include <algorithm>
 
+#include "core/library/check/write_leftovers.h"
 #include "core/library/clip_catalogue.h"
 #include "core/library/trips/clip_container.h"
 #include "core/library/trips/clip_telemetry_loader.h"
@@ -17,6 +17,7 @@
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/m420/m420_setting_manager.h"
 #include "core/telemetry/orvo_clip_data.h"
+#include "core/util/atomic_file.h"
 
 namespace tarvik {
 
@@ -45,17 +46,20 @@ SettingsState readSettings(const std::string& root) {
     std::error_code ec;
     if (!record.empty()) {
         s.present = true;
-        std::ifstream f(record, std::ios::binary);
-        s.readable = f.good() && f.peek() != std::ifstream::traits_type::eof();
-        s.length = static_cast<std::int64_t>(fs::file_size(record, ec));
-        if (ec) s.length = -1, s.readable = false;
+        std::string head;
+        std::size_t size = 0;
+        const bool opened = readFileHead(record, 1, &head, &size);
+        s.readable = opened && !head.empty();
+        s.length = opened ? static_cast<std::int64_t>(size) : -1;
     } else {
         for (const char* folder : {"setting", "SETTING"}) {
             const fs::path p = fs::path(root) / folder / "blackbox.cfg";
-            if (fs::is_regular_file(p, ec)) {
+            if (fs::exists(fs::symlink_status(p, ec))) {
+                std::string head;
+                std::size_t size = 0;
                 s.present = true;
-                s.readable = std::ifstream(p, std::ios::binary).good();
-                s.length = static_cast<std::int64_t>(fs::file_size(p, ec));
+                s.readable = readFileHead(p.string(), 1, &head, &size);
+                s.length = s.readable ? static_cast<std::int64_t>(size) : -1;
             }
         }
     }
@@ -145,6 +149,8 @@ CardReport checkCard(const std::string& root) {
     else if (s.expectedLength > 0 && s.length != s.expectedLength)
         add(r, S::Attention, "settings", M420SettingManager::recordFilePath(root),
             "length " + std::to_string(s.length) + ", expected " + std::to_string(s.expectedLength));
+    for (const std::string& leftover : findWriteLeftovers(root))
+        add(r, S::Note, "write-leftover", leftover, "left by an interrupted settings write; the next write removes it");
 
     struct statvfs v {};
     if (::statvfs(root.c_str(), &v) == 0) {

@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
-#include <fstream>
 #include <regex>
 #include <sstream>
 
 #include "core/util/process_runner.h"
+#include "core/util/regular_file.h"
 
 namespace tarvik {
 
@@ -53,11 +53,12 @@ int countStreamLines(const std::string& info, const char* kind) {
 }
 
 std::string readAsciiAt(const std::string& path, std::streamoff offset) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in || !in.seekg(offset)) return {};
+    const int fd = openRegularFile(path);
+    if (fd < 0) return {};
     char buf[16] = {};
-    in.read(buf, sizeof buf);
-    return std::string(buf, static_cast<std::size_t>(in.gcount()));
+    const ssize_t got = ::pread(fd, buf, sizeof buf, static_cast<off_t>(offset));
+    ::close(fd);
+    return got > 0 ? std::string(buf, static_cast<std::size_t>(got)) : std::string();
 }
 
 bool startsWithNoCase(const std::string& text, std::string_view prefix) {

@@ -4,8 +4,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
+
+#include "core/util/regular_file.h"
+#include "core/util/unrecorded_space.h"
 
 namespace tarvik {
 
@@ -111,6 +115,8 @@ ContainerInfo inspectAvi(int fd, std::uint64_t fileSize) {
     int chunks = 0;
     for (std::uint64_t off = 12; off + 8 <= riffEnd && chunks < 100000; ++chunks) {
         if (!readAt(fd, off, h, 12)) break;
+        // Not a chunk tag: the recording stopped here (preallocated zeros follow).
+        if (!std::all_of(h, h + 4, [](unsigned char c) { return c >= 0x20 && c <= 0x7e; })) break;
         const std::uint64_t size = le32(h + 4);
         if (off + 8 + size > riffEnd) {
             info.state = ContainerState::Truncated;
@@ -142,19 +148,17 @@ ContainerInfo inspectAvi(int fd, std::uint64_t fileSize) {
 
 ContainerInfo inspectClipContainer(const std::string& path) {
     ContainerInfo info;
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return info;
     struct stat st {};
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd);
-        return info;
-    }
+    const int fd = openRegularFile(path, &st);
+    if (fd < 0) return info;
     const auto size = static_cast<std::uint64_t>(st.st_size);
     unsigned char h[12];
     if (size == 0) {
         info.state = ContainerState::ZeroBytes;
     } else if (size < 12 || !readAt(fd, 0, h, 12)) {
         info.state = ContainerState::Truncated;
+    } else if (startsUnrecorded(fd)) {
+        info.state = ContainerState::Preallocated;
     } else if (!std::memcmp(h, "RIFF", 4) && !std::memcmp(h + 8, "AVI ", 4)) {
         info = inspectAvi(fd, size);
     } else if (!std::memcmp(h + 4, "ftyp", 4) || !std::memcmp(h + 4, "mdat", 4) || !std::memcmp(h + 4, "moov", 4) ||
@@ -171,6 +175,7 @@ const char* containerStateText(ContainerState state) {
     case ContainerState::ZeroBytes: return "zero bytes";
     case ContainerState::Truncated: return "truncated";
     case ContainerState::NoIndex: return "no index";
+    case ContainerState::Preallocated: return "preallocated, never recorded";
     case ContainerState::Unreadable: break;
     }
     return "unreadable";

@@ -12,6 +12,7 @@ enum class ContainerState {
     ZeroBytes,  // the camera lost power before writing anything
     Truncated,  // a box or chunk runs past the end of the file
     NoIndex,    // MP4/MOV without "moov", AVI without "idx1" / OpenDML index
+    Preallocated,  // all zeros at its start: space the camera set aside, never recorded
     Unreadable, // missing, unreadable, or not a container we know
 };
 
@@ -21,7 +22,8 @@ struct ContainerInfo {
 };
 
 ContainerInfo inspectClipContainer(const std::string& path);
-// "playable", "zero bytes", "truncated", "no index", "unreadable".
+// "playable", "zero bytes", "truncated", "no index", "preallocated, never
+// recorded", "unreadable".
 const char* containerStateText(ContainerState state);
 
 }  // namespace tarvik

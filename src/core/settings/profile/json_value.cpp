@@ -1,185 +1,132 @@
 #include "core/settings/profile/json_value.h"
 
-#include <charconv>
 #include <cstdio>
+#include <limits>
+#include <set>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
 
 namespace tarvik {
 
+// Parsing goes through nlohmann-json's SAX interface, which builds no tree of
+// its own: the limits are checked event by event, so a hostile profile is
+// refused before it costs depth or memory.
 namespace {
 
-class Parser {
-public:
-    Parser(const std::string& s, std::string* error) : s_(s), error_(error) {}
+using Json = nlohmann::json;
 
-    std::optional<JsonValue> document() {
-        JsonValue v;
-        if (!value(v, 0)) return std::nullopt;
-        skipSpace();
-        if (p_ != s_.size()) return fail("text after the end of the document");
-        return v;
+class Builder final : public nlohmann::json_sax<Json> {
+public:
+    Builder(const std::string& text, std::string* error) : text_(text), error_(error) {}
+    JsonValue take() { return std::move(root_); }
+
+    bool null() override { return place() != nullptr; }
+    bool boolean(bool b) override {
+        JsonValue* v = place();
+        if (!v) return false;
+        v->kind = JsonValue::Kind::Bool;
+        v->boolean = b;
+        return true;
+    }
+    bool number_integer(number_integer_t n) override { return number(n); }
+    bool number_unsigned(number_unsigned_t n) override {
+        if (n > static_cast<number_unsigned_t>(std::numeric_limits<std::int64_t>::max()))
+            return fail("number too large");
+        return number(static_cast<std::int64_t>(n));
+    }
+    bool number_float(number_float_t, const string_t& token) override { return fail(numberProblem(token)); }
+    bool string(string_t& s) override {
+        JsonValue* v = place();
+        if (!v) return false;
+        v->kind = JsonValue::Kind::String;
+        v->text = std::move(s);
+        return true;
+    }
+    bool binary(binary_t&) override { return fail("not a JSON value"); }
+    bool start_object(std::size_t) override { return open(JsonValue::Kind::Object); }
+    bool start_array(std::size_t) override { return open(JsonValue::Kind::Array); }
+    bool end_object() override { return close(); }
+    bool end_array() override { return close(); }
+    bool key(string_t& k) override {
+        // The last of two equal names would silently win, even the model's.
+        if (!keys_.back().insert(k).second) return fail("duplicate member " + jsonQuote(k));
+        key_ = std::move(k);
+        return true;
+    }
+    bool parse_error(std::size_t position, const std::string& token, const nlohmann::detail::exception& e) override {
+        const std::size_t at = position > 0 ? position - 1 : 0;
+        return fail(lexicalProblem(position, token, e) + " (at byte " + std::to_string(at) + ")");
     }
 
 private:
-    std::nullopt_t fail(const std::string& why) {
-        if (error_ && error_->empty()) *error_ = why + " (at byte " + std::to_string(p_) + ")";
-        return std::nullopt;
-    }
-    bool failed(const std::string& why) {
-        fail(why);
+    bool fail(const std::string& why) {
+        if (error_ && error_->empty()) *error_ = why;
         return false;
     }
 
-    void skipSpace() {
-        while (p_ < s_.size() && (s_[p_] == ' ' || s_[p_] == '\t' || s_[p_] == '\n' || s_[p_] == '\r')) ++p_;
+    // Where the next value goes; nothing when it would lie too deep.
+    JsonValue* place() {
+        if (stack_.size() > static_cast<std::size_t>(kMaxJsonDepth)) {
+            fail("nested too deeply");
+            return nullptr;
+        }
+        if (stack_.empty()) return &root_;
+        JsonValue* top = stack_.back();
+        if (top->kind == JsonValue::Kind::Array) return &top->items.emplace_back();
+        top->members.push_back({std::move(key_), {}});
+        return &top->members.back().value;
     }
-    bool literal(const char* word) {
-        const std::string_view w(word);
-        if (s_.compare(p_, w.size(), w) != 0) return failed("unexpected text");
-        p_ += w.size();
+    bool number(std::int64_t n) {
+        JsonValue* v = place();
+        if (!v) return false;
+        v->kind = JsonValue::Kind::Number;
+        v->number = n;
+        return true;
+    }
+    bool open(JsonValue::Kind kind) {
+        JsonValue* v = place();
+        if (!v) return false;
+        v->kind = kind;
+        stack_.push_back(v);
+        keys_.emplace_back();
+        return true;
+    }
+    bool close() {
+        stack_.pop_back();
+        keys_.pop_back();
         return true;
     }
 
-    bool value(JsonValue& out, int depth) {
-        if (depth > kMaxJsonDepth) return failed("nested too deeply");
-        skipSpace();
-        if (p_ >= s_.size()) return failed("unexpected end");
-        const char c = s_[p_];
-        if (c == '{') return object(out, depth);
-        if (c == '[') return array(out, depth);
-        if (c == '"') {
-            out.kind = JsonValue::Kind::String;
-            return string(out.text);
-        }
-        if (c == 't' || c == 'f') {
-            out.kind = JsonValue::Kind::Bool;
-            out.boolean = c == 't';
-            return literal(c == 't' ? "true" : "false");
-        }
-        if (c == 'n') return literal("null");
-        return number(out);
+    static std::string numberProblem(const std::string& token) {
+        return token.find_first_of(".eE") != std::string::npos ? "only whole numbers are allowed" : "number too large";
     }
 
-    bool number(JsonValue& out) {
-        std::size_t e = p_;
-        if (e < s_.size() && s_[e] == '-') ++e;
-        while (e < s_.size() && s_[e] >= '0' && s_[e] <= '9') ++e;
-        if (e < s_.size() && (s_[e] == '.' || s_[e] == 'e' || s_[e] == 'E'))
-            return failed("only whole numbers are allowed");
-        const auto [end, ec] = std::from_chars(s_.data() + p_, s_.data() + e, out.number);
-        if (ec == std::errc::result_out_of_range) return failed("number too large");
-        if (ec != std::errc() || end != s_.data() + e || e == p_) return failed("not a JSON value");
-        out.kind = JsonValue::Kind::Number;
-        p_ = e;
-        return true;
+    std::string lexicalProblem(std::size_t position, const std::string& token, const nlohmann::detail::exception& e) const {
+        const std::string_view what = e.what();
+        auto says = [&](std::string_view s) { return what.find(s) != std::string_view::npos; };
+        if (e.id == 406) return numberProblem(token);
+        if (says("UTF-8")) return "invalid UTF-8";
+        if (says("control character")) return "control character in a string";
+        if (says("surrogate")) return "lone surrogate";
+        if (says("backslash") || says("\\u must be followed")) return "bad escape";
+        if (says("missing closing quote")) return "unterminated string";
+        if (says("expected end of input")) return "text after the end of the document";
+        if (says("unexpected end of input")) return "unexpected end";
+        // "01": the grammar ends the number after its zero and meets another.
+        const std::size_t start = position >= token.size() ? position - token.size() : 0;
+        if (!token.empty() && token[0] >= '0' && token[0] <= '9' && start >= 1 && text_[start - 1] == '0' &&
+            (start < 2 || text_[start - 2] < '0' || text_[start - 2] > '9'))
+            return "a number with a leading zero";
+        return "not JSON";
     }
 
-    static void appendUtf8(std::string& out, std::uint32_t cp) {
-        if (cp < 0x80) {
-            out += static_cast<char>(cp);
-        } else if (cp < 0x800) {
-            out += static_cast<char>(0xC0 | (cp >> 6));
-            out += static_cast<char>(0x80 | (cp & 0x3F));
-        } else if (cp < 0x10000) {
-            out += static_cast<char>(0xE0 | (cp >> 12));
-            out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (cp & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | (cp >> 18));
-            out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (cp & 0x3F));
-        }
-    }
-
-    bool hex4(std::uint32_t& v) {
-        if (p_ + 4 > s_.size()) return failed("bad \\u escape");
-        const auto [end, ec] = std::from_chars(s_.data() + p_, s_.data() + p_ + 4, v, 16);
-        if (ec != std::errc() || end != s_.data() + p_ + 4) return failed("bad \\u escape");
-        p_ += 4;
-        return true;
-    }
-
-    bool string(std::string& out) {
-        ++p_;  // opening quote
-        while (p_ < s_.size()) {
-            const char c = s_[p_++];
-            if (c == '"') return true;
-            if (static_cast<unsigned char>(c) < 0x20) return failed("control character in a string");
-            if (c != '\\') {
-                out += c;
-                continue;
-            }
-            if (p_ >= s_.size()) break;
-            const char e = s_[p_++];
-            switch (e) {
-            case '"': case '\\': case '/': out += e; break;
-            case 'b': out += '\b'; break;
-            case 'f': out += '\f'; break;
-            case 'n': out += '\n'; break;
-            case 'r': out += '\r'; break;
-            case 't': out += '\t'; break;
-            case 'u': {
-                std::uint32_t cp = 0;
-                if (!hex4(cp)) return false;
-                if (cp >= 0xD800 && cp < 0xDC00) {
-                    std::uint32_t lo = 0;
-                    if (s_.compare(p_, 2, "\\u") != 0) return failed("lone surrogate");
-                    p_ += 2;
-                    if (!hex4(lo) || lo < 0xDC00 || lo > 0xDFFF) return failed("lone surrogate");
-                    cp = 0x10000 + ((cp - 0xD800) << 10) + (lo - 0xDC00);
-                } else if (cp >= 0xDC00 && cp < 0xE000) {
-                    return failed("lone surrogate");
-                }
-                appendUtf8(out, cp);
-                break;
-            }
-            default: return failed("bad escape");
-            }
-        }
-        return failed("unterminated string");
-    }
-
-    bool array(JsonValue& out, int depth) {
-        out.kind = JsonValue::Kind::Array;
-        ++p_;
-        skipSpace();
-        if (p_ < s_.size() && s_[p_] == ']') return ++p_, true;
-        for (;;) {
-            out.items.emplace_back();
-            if (!value(out.items.back(), depth + 1)) return false;
-            skipSpace();
-            if (p_ < s_.size() && s_[p_] == ',') { ++p_; continue; }
-            if (p_ < s_.size() && s_[p_] == ']') return ++p_, true;
-            return failed("expected , or ]");
-        }
-    }
-
-    bool object(JsonValue& out, int depth) {
-        out.kind = JsonValue::Kind::Object;
-        ++p_;
-        skipSpace();
-        if (p_ < s_.size() && s_[p_] == '}') return ++p_, true;
-        for (;;) {
-            skipSpace();
-            if (p_ >= s_.size() || s_[p_] != '"') return failed("expected a member name");
-            std::string key;
-            if (!string(key)) return false;
-            skipSpace();
-            if (p_ >= s_.size() || s_[p_] != ':') return failed("expected :");
-            ++p_;
-            JsonValue v;
-            if (!value(v, depth + 1)) return false;
-            out.members.push_back({std::move(key), std::move(v)});
-            skipSpace();
-            if (p_ < s_.size() && s_[p_] == ',') { ++p_; continue; }
-            if (p_ < s_.size() && s_[p_] == '}') return ++p_, true;
-            return failed("expected , or }");
-        }
-    }
-
-    const std::string& s_;
+    const std::string& text_;
     std::string* error_;
-    std::size_t p_ = 0;
+    JsonValue root_;
+    std::vector<JsonValue*> stack_;
+    std::vector<std::set<std::string>> keys_;
+    std::string key_;
 };
 
 }  // namespace
@@ -192,7 +139,9 @@ const JsonValue* JsonValue::member(const std::string& key) const {
 
 std::optional<JsonValue> parseJson(const std::string& text, std::string* error) {
     if (error) error->clear();
-    return Parser(text, error).document();
+    Builder builder(text, error);
+    if (!Json::sax_parse(text, &builder, Json::input_format_t::json, true, false)) return std::nullopt;
+    return builder.take();
 }
 
 std::string jsonQuote(const std::string& s) {

@@ -1,8 +1,9 @@
 #pragma once
 // The little JSON a settings profile needs: objects, arrays, strings, whole
-// numbers, true, false and null. Bounded on purpose, since a profile comes
-// from anyone: nesting, length and numbers have limits, and a breach is an
-// error, never a crash or a huge allocation.
+// numbers, true, false and null, read by nlohmann-json to JSON's own grammar.
+// Bounded on purpose, since a profile comes from anyone: nesting, length and
+// numbers have limits, a name appears once in an object, and a breach is an
+// error naming its reason, never a crash or a huge allocation.
 
 #include <cstdint>
 #include <map>

@@ -43,6 +43,21 @@ void patchLines(std::string& bytes, const std::string& name, const std::string& 
     }
 }
 
+// A profile's number for a text field (or text for a number field) is a
+// profile for another layout, even when the text reads as a number.
+bool kindFits(const SettingValue* field, const SettingAssignment& a, std::string* error) {
+    const bool number = field && field->numeric;
+    if (a.given == ValueKind::Text && number) {
+        if (error) *error = a.name + ": a whole number is expected, not a text";
+        return false;
+    }
+    if (a.given == ValueKind::Number && !number) {
+        if (error) *error = a.name + ": a text is expected, not a number";
+        return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 std::optional<SettingsEdit> planSettingsEdit(const CardSettings& card, const std::vector<SettingAssignment>& set,
@@ -53,6 +68,7 @@ std::optional<SettingsEdit> planSettingsEdit(const CardSettings& card, const std
         const auto value = checkSettingValue(card, a.name, a.value, error);
         if (!value) return std::nullopt;
         const SettingValue* old = card.find(a.name);
+        if (!kindFits(old, a, error)) return std::nullopt;
         const std::string from = old ? old->value : "";
         if (card.family == SettingsFamily::M420) patchRecord(edit.newBytes, a.name, *value);
         else patchLines(edit.newBytes, a.name, *value);

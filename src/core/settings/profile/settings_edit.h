@@ -10,9 +10,14 @@
 
 namespace tarvik {
 
+// What the value was written as: a profile says (a JSON number or text), a
+// command line does not.
+enum class ValueKind { Any, Number, Text };
+
 struct SettingAssignment {
     std::string name;
     std::string value;
+    ValueKind given = ValueKind::Any;
 };
 
 struct SettingChange {

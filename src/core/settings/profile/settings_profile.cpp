@@ -2,6 +2,8 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/profile/json_value.h"
 #include "core/util/atomic_file.h"
@@ -47,7 +49,10 @@ std::optional<SettingsProfile> parseSettingsProfile(const std::string& json, std
     bool sawFormat = false, sawFamily = false, sawType = false, sawSettings = false;
     for (const auto& [key, v] : doc->members) {
         if (key == kFormatKey) {
-            if (v.kind != JsonValue::Kind::Number || v.number != kFormatVersion)
+            if (v.kind != JsonValue::Kind::Number)
+                return refuse(error, "\"" + std::string(kFormatKey) + "\" must be the number " +
+                                         std::to_string(kFormatVersion));
+            if (v.number != kFormatVersion)
                 return refuse(error, "profile format " + std::to_string(v.number) + " is not one this version reads");
             sawFormat = true;
         } else if (key == "family") {
@@ -68,10 +73,16 @@ std::optional<SettingsProfile> parseSettingsProfile(const std::string& json, std
             if (v.kind != JsonValue::Kind::Object) return refuse(error, "\"settings\" must be an object");
             if (v.members.size() > kMaxSettings) return refuse(error, "too many settings");
             for (const auto& [name, s] : v.members) {
+                // Printed, a name with a NUL in it would read as another one.
+                if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }))
+                    return refuse(error, "setting " + jsonQuote(name) + ": a control character in the name");
                 if (s.kind == JsonValue::Kind::Number)
-                    p.settings.push_back({name, std::to_string(s.number)});
+                    p.settings.push_back({name, std::to_string(s.number), ValueKind::Number});
                 else if (s.kind == JsonValue::Kind::String && s.text.size() <= kMaxText)
-                    p.settings.push_back({name, s.text});
+                    p.settings.push_back({name, s.text, ValueKind::Text});
+                else if (s.kind == JsonValue::Kind::String)
+                    return refuse(error, "setting " + jsonQuote(name) + ": a text of at most " +
+                                             std::to_string(kMaxText) + " bytes is expected");
                 else
                     return refuse(error, "setting " + jsonQuote(name) + ": a number or a short text is expected");
             }
