@@ -17,6 +17,8 @@ int exportCommand(const ExportOptions& o) {
     to.folder = o.out;
     to.programVersion = TARVIK_VERSION;
     to.video.crf = o.crf;
+    to.overlay = o.overlay;
+    to.overlayOptions.mph = o.mph;
     layoutFromName(o.layout, &to.video.layout);
     const auto from = parseCameraTime(o.from), until = parseCameraTime(o.to);
     if (!from || !until) {

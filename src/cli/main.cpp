@@ -98,6 +98,8 @@ void addExport(CLI::App& app, ExportOptions& o) {
     c->add_option("--layout", o.layout, "front, rear, side by side, or the rear as a picture in the front's corner")
         ->check(CLI::IsMember({"front", "rear", "side", "pip"}))
         ->capture_default_str();
+    c->add_flag("--overlay", o.overlay, "Draw the camera's clock, the speed, G values and position over the picture");
+    c->add_flag("--mph", o.mph, "Speeds in the overlay in miles an hour");
     c->add_option("--quality", o.crf, "H.264 quality, 0 (best) to 51")->check(CLI::Range(0, 51))->capture_default_str();
     c->add_flag("--verbose", o.verbose, "Let FFmpeg report what it finds wrong in the clips");
     c->footer("Progress goes to standard error; the folder's path to standard output once it is whole.\n"

@@ -11,6 +11,8 @@
 
 #include "cardgen/card_plan.h"
 #include "core/library/incident/incident_exporter.h"
+#include "core/library/trips/clip_telemetry_loader.h"
+#include "core/telemetry/orvo_clip_data.h"
 #include "core/util/process_runner.h"
 #include "core/util/sha256.h"
 
@@ -161,4 +163,38 @@ TEST(IncidentExport, RefusalsLeaveNoVideoAndTheCardAsItWas) {
                                   "2026-11-21 10:00:06", "--layout", "front", "--out", front.path.string()});
     EXPECT_EQ(alone.exitCode, 0) << alone.output;
     EXPECT_EQ(shell("cd '" + front.path.string() + "' && sha256sum -c --quiet SHA256SUMS").exitCode, 0);
+}
+
+// The overlay says what the dashboard says at the same moment: the sample at
+// trunc(t x 10), G as raw x 4 / 512 to three places, degrees to four.
+TEST(IncidentExport, OverlayTextsAreTheDashboardsValues) {
+    Drive drive;
+    Folder out("overlay");
+    ProcessResult r = runTarvik({"export", drive.card.path.string(), "--from", "2026-11-21 10:00:02", "--to",
+                                 "2026-11-21 10:00:07", "--overlay", "--out", out.path.string()});
+    ASSERT_EQ(r.exitCode, 0) << r.output;
+    std::ifstream in(out.path / "overlay.ass");
+    const std::string ass((std::istreambuf_iterator<char>(in)), {});
+    auto shownAt = [&](double t) {
+        const std::regex line(R"(Dialogue: 0,0:00:(\d\d\.\d\d),0:00:(\d\d\.\d\d),Telemetry,([^\n]*))");
+        for (auto it = std::sregex_iterator(ass.begin(), ass.end(), line); it != std::sregex_iterator(); ++it)
+            if (std::stod((*it)[1]) <= t + 1e-9 && t < std::stod((*it)[2]) - 1e-9) return std::string((*it)[3]);
+        return std::string("nothing");
+    };
+    auto data = std::make_unique<OrvoClipData>();
+    // Moments in the first pair, just after the join, and late in the second pair.
+    for (const auto& [videoTime, clip, clipTime, clock] :
+         {std::tuple{0.0, "20261121_100000_F.avi", 2.0, "10:00:02"}, std::tuple{2.05, "20261121_100004_F.avi", 0.05, "10:00:04"},
+          std::tuple{4.75, "20261121_100004_F.avi", 2.75, "10:00:06"}}) {
+        loadClipTelemetry((drive.card.path / "cont_rec" / clip).string(), *data);
+        int x, y, z;
+        float lat, lng;
+        unsigned kmh;
+        data->getClipDataWithIndex(int(clipTime * 10 + 1e-9), x, y, z, lat, lng, kmh);
+        char want[200];
+        std::snprintf(want, sizeof want, "2026-11-21 %s   %u km/h   G %.3f %.3f %.3f   %.4f %.4f", clock, kmh, x * 4 / 512.0,
+                      y * 4 / 512.0, z * 4 / 512.0, lat, lng);
+        EXPECT_EQ(shownAt(videoTime), want) << videoTime;
+    }
+    EXPECT_EQ(ProcessRunner::run("/bin/sh", {"-c", "cd '" + out.path.string() + "' && sha256sum -c --quiet SHA256SUMS"}).exitCode, 0);
 }

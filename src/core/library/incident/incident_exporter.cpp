@@ -1,5 +1,7 @@
 #include "core/library/incident/incident_exporter.h"
 
+#include <stdlib.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <map>
@@ -110,7 +112,22 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
         fs::remove(partial, ec);
         return fail(std::move(text));
     };
-    const ProcessResult r = ProcessRunner::run(ffmpegProgram(), incidentVideoArguments(span, to.video, partial.string()));
+    IncidentVideoOptions video = to.video;
+    std::string overlay;
+    // libass reads the overlay from a path of our own that a filter graph
+    // takes as it is; the folder's own path may hold anything.
+    char scratch[] = "/tmp/tarvik-overlay-XXXXXX";
+    const bool scratchMade = to.overlay && ::mkdtemp(scratch);
+    if (to.overlay) {
+        overlay = incidentOverlayAss(span, to.overlayOptions);
+        video.overlayFile = std::string(scratch) + "/overlay.ass";
+        if (!scratchMade || !writeFileAtomically(video.overlayFile, overlay) ||
+            !writeFileAtomically((dir / "overlay.ass").string(), overlay))
+            return failVideo("overlay.ass: cannot be written");
+        hashes["overlay.ass"] = sha256OfFile((dir / "overlay.ass").string());
+    }
+    const ProcessResult r = ProcessRunner::run(ffmpegProgram(), incidentVideoArguments(span, video, partial.string()));
+    if (scratchMade) fs::remove_all(scratch, ec);
     if (r.exitCode != 0 || !fs::exists(partial, ec))
         return failVideo("ffmpeg could not make the video" + (r.output.empty() ? std::string() : ": " + r.output));
     hashes["incident.mp4"] = sha256OfFile(partial.string());

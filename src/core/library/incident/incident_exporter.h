@@ -2,13 +2,15 @@
 // An incident handed over as evidence: a folder that is never on the card,
 // holding the span as one video of both cameras (incident.mp4), every clip it
 // touches copied byte for byte (originals/), its route with times
-// (route.gpx), its samples (telemetry.csv), what it is (incident.json) and
+// (route.gpx), its samples (telemetry.csv), the overlay as drawn (overlay.ass,
+// when asked for), what it is (incident.json) and
 // the SHA-256 of every file in the form `sha256sum -c` checks (SHA256SUMS).
 // The card is only read.
 
 #include <functional>
 #include <string>
 
+#include "core/library/incident/incident_overlay.h"
 #include "core/library/incident/incident_span.h"
 #include "core/library/incident/incident_video.h"
 
@@ -16,6 +18,8 @@ namespace tarvik {
 
 struct IncidentExport {
     IncidentVideoOptions video;
+    bool overlay = false;  // the clock, speed, G and position drawn over the picture
+    OverlayOptions overlayOptions;
     std::string folder;          // created when missing; must not hold an incident yet
     std::string programVersion;  // written into incident.json
 };

@@ -71,7 +71,12 @@ std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const 
                 ";[r][f]scale2ref=w=trunc(main_w/6)*2:h=-2[rs][fs];[fs][rs]overlay=x=W-w-16:y=16:eof_action=pass[v]";
         break;
     }
-    args.insert(args.end(), {"-filter_complex", graph, "-map", "[v]", "-an", "-c:v", "libx264", "-preset", "veryfast",
+    std::string last = "[v]";
+    if (!o.overlayFile.empty()) {
+        graph += ";[v]ass=filename=" + o.overlayFile + "[o]";
+        last = "[o]";
+    }
+    args.insert(args.end(), {"-filter_complex", graph, "-map", last, "-an", "-c:v", "libx264", "-preset", "veryfast",
                              "-crf", std::to_string(o.crf), "-pix_fmt", "yuv420p", "-movflags", "+faststart", "-f",
                              "mp4", output});
     return args;

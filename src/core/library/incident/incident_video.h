@@ -21,6 +21,9 @@ bool layoutNeedsRear(IncidentLayout layout);
 struct IncidentVideoOptions {
     IncidentLayout layout = IncidentLayout::Side;
     int crf = 20;  // H.264 quality: lower is better and larger
+    // An ASS file drawn over the picture; its path must need no escaping in
+    // a filter graph (letters, digits, '/', '-', '_', '.').
+    std::string overlayFile;
 };
 
 // ffmpeg's arguments writing the span to `output` (an .mp4).
