@@ -8,6 +8,7 @@
 #include <fstream>
 #include <map>
 #include <regex>
+#include <tuple>
 
 #include "cardgen/card_plan.h"
 #include "core/library/incident/incident_exporter.h"
@@ -78,6 +79,33 @@ TEST(Sha256, KnownDigests) {
             pieces.update(c.text.data() + at, std::min(step, c.text.size() - at));
         EXPECT_EQ(whole.hexDigest(), c.digest);
         EXPECT_EQ(pieces.hexDigest(), c.digest);
+    }
+}
+
+// Spans on a drive of two 4 s clips (the second 3.9 s long) from second 100 on.
+TEST(IncidentSpan, PartsAndEdges) {
+    Trip trip;
+    trip.clips = {{"a_F.avi", "a_R.avi", 100, 4.0}, {"b_F.avi", "b_R.avi", 104, 3.9}};
+    trip.start = 100, trip.end = 108;
+    struct Case {
+        double from, to;
+        std::vector<std::tuple<std::string, double, double>> parts;  // clip, from, to
+    };
+    for (const Case& c : {Case{101, 103, {{"a_F.avi", 1, 3}}},
+                          Case{102.5, 105.5, {{"a_F.avi", 2.5, 4}, {"b_F.avi", 0, 1.5}}},
+                          Case{100, 108, {{"a_F.avi", 0, 4}, {"b_F.avi", 0, 3.9}}},  // to the second after the end
+                          Case{100, 109, {}},                                       // past the drive
+                          Case{99, 101, {}},                                        // before it
+                          Case{103, 103, {}}}) {                                    // empty
+        const auto span = spanWithin(trip, c.from, c.to);
+        ASSERT_EQ(span.has_value(), !c.parts.empty()) << c.from << " " << c.to;
+        if (!span) continue;
+        ASSERT_EQ(span->parts.size(), c.parts.size());
+        for (std::size_t i = 0; i < c.parts.size(); ++i) {
+            EXPECT_EQ(span->parts[i].clip.path, std::get<0>(c.parts[i]));
+            EXPECT_DOUBLE_EQ(span->parts[i].from, std::get<1>(c.parts[i]));
+            EXPECT_NEAR(span->parts[i].to, std::get<2>(c.parts[i]), 1e-9);
+        }
     }
 }
 

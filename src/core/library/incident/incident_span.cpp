@@ -15,7 +15,12 @@ double IncidentSpan::seconds() const {
 }
 
 std::optional<IncidentSpan> spanWithin(const Trip& trip, double from, double to) {
-    if (!(to > from)) return std::nullopt;
+    if (!(to > from) || trip.clips.empty()) return std::nullopt;
+    // Times typed to the second may name the end of the drive a fraction
+    // after its last picture: that is the end.
+    const TripClip& last = trip.clips.back();
+    const double end = double(last.start) + last.seconds;
+    if (to > end && to < end + 1.0) to = end;
     IncidentSpan span;
     for (const TripClip& c : trip.clips) {
         const double begin = double(c.start), end = begin + c.seconds;
