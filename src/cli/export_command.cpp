@@ -1,5 +1,6 @@
 // tarvik export CARD --from TIME --to TIME --out DIR [--layout ...]: an
 // incident as evidence, the same folder the viewer writes.
+#include <algorithm>
 #include <cstdio>
 
 #include "cli/commands.h"
@@ -31,8 +32,14 @@ int exportCommand(const ExportOptions& o) {
         std::fprintf(stderr, "tarvik export: %s\n", why.c_str());
         return 1;
     }
-    const bool ok = IncidentExporter::write(*span, to, [](const std::string& step) {
-        std::fprintf(stderr, "%s\n", step.c_str());
+    std::string lastStep;
+    int lastPercent = -1;
+    const bool ok = IncidentExporter::write(*span, to, [&](const std::string& step, double done) {
+        const int percent = done < 0 ? lastPercent : int(done * 100);
+        if (step != lastStep || percent / 10 != lastPercent / 10)
+            std::fprintf(stderr, "%3d%%  %s\n", std::max(percent, 0), step.c_str());
+        lastStep = step, lastPercent = percent;
+        return true;
     }, &why);
     if (!ok) {
         std::fprintf(stderr, "tarvik export: %s\n", why.c_str());

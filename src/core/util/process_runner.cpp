@@ -24,6 +24,11 @@ int remainingMs(std::chrono::steady_clock::time_point deadline) {
 
 ProcessResult ProcessRunner::run(const std::string& program, const std::vector<std::string>& args,
                                  std::chrono::milliseconds timeout, std::size_t maxOutputBytes) {
+    return run(program, args, Watcher{}, timeout, maxOutputBytes);
+}
+
+ProcessResult ProcessRunner::run(const std::string& program, const std::vector<std::string>& args,
+                                 const Watcher& watch, std::chrono::milliseconds timeout, std::size_t maxOutputBytes) {
     ProcessResult result;
     int fds[2];
     if (pipe2(fds, O_CLOEXEC) != 0) return result;
@@ -57,16 +62,28 @@ ProcessResult ProcessRunner::run(const std::string& program, const std::vector<s
     for (;;) {
         pollfd p{fds[0], POLLIN, 0};
         int waitMs = limited ? remainingMs(deadline) : -1;
+        if (watch && (waitMs < 0 || waitMs > 200)) waitMs = 200;
         int n = poll(&p, 1, waitMs);
         if (n < 0 && errno == EINTR) continue;
-        if (n == 0) {  // time is up
+        if (n == 0 && limited && remainingMs(deadline) == 0) {  // time is up
             result.timedOut = true;
             kill(pid, SIGKILL);
             break;
         }
+        if (n == 0) {
+            if (watch && !watch({})) {
+                kill(pid, SIGKILL);
+                break;
+            }
+            continue;
+        }
         ssize_t got = read(fds[0], buf, sizeof buf);
         if (got < 0 && errno == EINTR) continue;
         if (got <= 0) break;
+        if (watch && !watch(std::string_view(buf, std::size_t(got)))) {
+            kill(pid, SIGKILL);
+            break;
+        }
         if (result.output.size() < maxOutputBytes)
             result.output.append(buf, std::min<std::size_t>(got, maxOutputBytes - result.output.size()));
     }

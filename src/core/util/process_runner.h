@@ -4,7 +4,9 @@
 // the way the programs' messages are meant to be read by a person.
 
 #include <chrono>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarvik {
@@ -18,8 +20,15 @@ struct ProcessResult {
 
 class ProcessRunner {
 public:
+    // Told each piece of the program's output as it comes, and at least every
+    // 200 ms; returning false stops the program there (it is killed).
+    using Watcher = std::function<bool(std::string_view piece)>;
+
     // A zero timeout waits for as long as the program runs.
     static ProcessResult run(const std::string& program, const std::vector<std::string>& args,
+                             std::chrono::milliseconds timeout = std::chrono::milliseconds{0},
+                             std::size_t maxOutputBytes = 4 * 1024 * 1024);
+    static ProcessResult run(const std::string& program, const std::vector<std::string>& args, const Watcher& watch,
                              std::chrono::milliseconds timeout = std::chrono::milliseconds{0},
                              std::size_t maxOutputBytes = 4 * 1024 * 1024);
 };

@@ -226,3 +226,44 @@ TEST(IncidentExport, OverlayTextsAreTheDashboardsValues) {
     }
     EXPECT_EQ(ProcessRunner::run("/bin/sh", {"-c", "cd '" + out.path.string() + "' && sha256sum -c --quiet SHA256SUMS"}).exitCode, 0);
 }
+
+// Cancelled halfway through the encoding, or a destination too small: a
+// reason, and nothing of the export left behind.
+TEST(IncidentExport, CancelAndAFullDestinationLeaveNothing) {
+    Drive drive;
+    const auto before = tree(drive.card.path);
+    std::string why;
+    const auto span = findIncidentSpan(drive.card.path.string(), parseCameraTime("2026-11-21 10:00:01").value(),
+                                       parseCameraTime("2026-11-21 10:00:11").value(), true, &why);
+    ASSERT_TRUE(span) << why;
+    Folder out("cancelled");
+    IncidentExport to;
+    to.folder = out.path.string();
+    std::vector<std::string> steps;
+    const bool done = IncidentExporter::write(*span, to, [&](const std::string& step, double) {
+        steps.push_back(step);
+        return step != "encoding incident.mp4";
+    }, &why);
+    EXPECT_FALSE(done);
+    EXPECT_EQ(why, "cancelled");
+    EXPECT_FALSE(fs::exists(out.path)) << "the folder it made is gone";
+    ASSERT_FALSE(steps.empty());
+    EXPECT_EQ(steps.front().rfind("copying originals/", 0), 0u);
+
+    // A 16 KiB file system of its own, in a mount namespace of the test's own.
+    if (geteuid() != 0) GTEST_SKIP() << "mounting a small file system needs root";
+    Folder small("small");
+    fs::create_directories(small.path);
+    const std::string script = "mount -t tmpfs -o size=16k none '" + small.path.string() + "' && '" +
+                               std::string(TARVIK_BINARY_DIR) + "/tarvik' export '" + drive.card.path.string() +
+                               "' --from '2026-11-21 10:00:01' --to '2026-11-21 10:00:11' --out '" +
+                               (small.path / "incident").string() + "'; echo \"exit $?\"; ls -A '" +
+                               small.path.string() + "'";
+    ProcessResult r = ProcessRunner::run("unshare", {"-m", "--propagation", "private", "sh", "-c", script},
+                                         std::chrono::minutes(2));
+    EXPECT_NE(r.output.find("exit 1\n"), std::string::npos) << r.output;
+    EXPECT_TRUE(r.output.find("No space left") != std::string::npos || r.output.find("is full") != std::string::npos)
+        << r.output;
+    EXPECT_EQ(r.output.substr(r.output.find("exit 1\n") + 7), "") << "left behind: " << r.output;
+    EXPECT_EQ(tree(drive.card.path), before);
+}

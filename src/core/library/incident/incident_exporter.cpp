@@ -3,6 +3,7 @@
 #include <stdlib.h>
 
 #include <cstdlib>
+#include <algorithm>
 #include <filesystem>
 #include <map>
 
@@ -46,6 +47,21 @@ std::string csvWithin(const std::string& rows, double from, double to) {
     return out;
 }
 
+// ffmpeg's complaint without its progress lines; a full disk in plain words.
+std::string videoFailure(const std::string& output) {
+    std::string said;
+    std::size_t at = 0;
+    while (at < output.size()) {
+        std::size_t end = output.find('\n', at);
+        if (end == std::string::npos) end = output.size();
+        const std::string line = output.substr(at, end - at);
+        if (!line.empty() && line.find('=') == std::string::npos) said += (said.empty() ? "" : "; ") + line;
+        at = end + 1;
+    }
+    if (said.find("No space left") != std::string::npos) return "the destination is full";
+    return "ffmpeg could not make the video" + (said.empty() ? std::string() : ": " + said);
+}
+
 bool sameOrBelow(const fs::path& inner, const fs::path& outer) {
     auto i = inner.begin();
     for (auto o = outer.begin(); o != outer.end(); ++o, ++i)
@@ -69,10 +85,16 @@ std::string IncidentExporter::destinationRefusal(const std::string& root, const 
 
 bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to, const Progress& progress,
                              std::string* why) {
-    auto fail = [why](std::string text) {
+    // What this export wrote, taken back when it does not finish.
+    std::vector<fs::path> written;
+    auto fail = [why, &written](std::string text) {
         if (why) *why = std::move(text);
+        std::error_code ignored;
+        for (auto it = written.rbegin(); it != written.rend(); ++it) fs::remove_all(*it, ignored);
         return false;
     };
+    // Copying is about a tenth of the work, encoding the rest.
+    auto step = [&](const std::string& what, double done) { return !progress || progress(what, done); };
     if (span.parts.empty()) return fail("the span holds no clip");
     if (const std::string refusal = destinationRefusal(span.root, to.folder); !refusal.empty()) return fail(refusal);
     if (layoutNeedsRear(to.video.layout))
@@ -80,9 +102,12 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
             if (p.clip.partner.empty()) return fail(p.clip.path + " has no rear clip; choose the front layout");
     const fs::path dir = to.folder;
     std::error_code ec;
+    if (fs::exists(dir / "incident.mp4", ec) || fs::exists(dir / "originals", ec))
+        return fail(to.folder + " already holds an incident");
+    if (!fs::exists(dir, ec)) written.push_back(dir);
     fs::create_directories(dir / "originals", ec);
     if (ec) return fail(to.folder + ": " + ec.message());
-    if (fs::exists(dir / "incident.mp4", ec)) return fail(to.folder + " already holds an incident");
+    written.push_back(dir / "originals");
 
     IncidentRecord record;
     record.span = &span;
@@ -95,7 +120,7 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
         for (const std::string& clip : {p.clip.path, p.clip.partner}) {
             if (clip.empty()) continue;
             const fs::path relative = fs::path("originals") / fs::relative(clip, span.root, ec);
-            if (progress) progress("copying " + relative.string());
+            if (!step("copying " + relative.string(), 0)) return fail("cancelled");
             fs::create_directories((dir / relative).parent_path(), ec);
             std::string error;
             const std::string hash = copyWithSha256(clip, (dir / relative).string(), &error);
@@ -106,12 +131,10 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
 
     // Encoded under a partial name and renamed last: a folder with an
     // incident.mp4 is a whole incident.
-    if (progress) progress("encoding incident.mp4");
+    if (!step("encoding incident.mp4", 0.1)) return fail("cancelled");
     const fs::path partial = dir / "incident.partial.mp4";
-    auto failVideo = [&](std::string text) {
-        fs::remove(partial, ec);
-        return fail(std::move(text));
-    };
+    written.push_back(partial);
+    auto failVideo = [&](std::string text) { return fail(std::move(text)); };
     IncidentVideoOptions video = to.video;
     std::string overlay;
     // libass reads the overlay from a path of our own that a filter graph
@@ -121,18 +144,34 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     if (to.overlay) {
         overlay = incidentOverlayAss(span, to.overlayOptions);
         video.overlayFile = std::string(scratch) + "/overlay.ass";
+        written.push_back(dir / "overlay.ass");
         if (!scratchMade || !writeFileAtomically(video.overlayFile, overlay) ||
             !writeFileAtomically((dir / "overlay.ass").string(), overlay))
             return failVideo("overlay.ass: cannot be written");
         hashes["overlay.ass"] = sha256OfFile((dir / "overlay.ass").string());
     }
-    const ProcessResult r = ProcessRunner::run(ffmpegProgram(), incidentVideoArguments(span, video, partial.string()));
+    // ffmpeg tells how far it is (out_time_us=...) on its standard output.
+    std::vector<std::string> args = incidentVideoArguments(span, video, partial.string());
+    args.insert(args.end() - 1, {"-progress", "pipe:1", "-nostats"});
+    const double total = span.seconds();
+    bool cancelled = false;
+    std::string pending;
+    const ProcessResult r = ProcessRunner::run(ffmpegProgram(), args, [&](std::string_view piece) {
+        pending.append(piece);
+        double encoded = -1;
+        for (std::size_t at; (at = pending.find('\n')) != std::string::npos; pending.erase(0, at + 1))
+            if (pending.compare(0, 12, "out_time_us=") == 0) encoded = std::atof(pending.c_str() + 12) / 1e6;
+        const double done = encoded < 0 ? -1 : 0.1 + 0.85 * std::clamp(encoded / total, 0.0, 1.0);
+        cancelled = !step("encoding incident.mp4", done);
+        return !cancelled;
+    });
     if (scratchMade) fs::remove_all(scratch, ec);
+    if (cancelled) return failVideo("cancelled");
     if (r.exitCode != 0 || !fs::exists(partial, ec))
-        return failVideo("ffmpeg could not make the video" + (r.output.empty() ? std::string() : ": " + r.output));
+        return failVideo(videoFailure(r.output));
     hashes["incident.mp4"] = sha256OfFile(partial.string());
 
-    if (progress) progress("writing the route and samples");
+    if (!step("writing the route and samples", 0.95)) return failVideo("cancelled");
     const Trip trip = tripOfSpan(span);
     const double from = double(span.parts.front().clip.start - trip.start) + span.parts.front().from;
     const double until = double(span.parts.back().clip.start - trip.start) + span.parts.back().to;
@@ -144,20 +183,24 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
         {"route.gpx", RouteExporter::gpx(points, "incident " + tripTimeText(std::int64_t(span.start())), trip.start)},
         {"telemetry.csv", csvWithin(route.csvRows, from, until)}};
     for (const auto& [name, text] : texts) {
+        written.push_back(dir / name);
         if (!writeFileAtomically((dir / name).string(), text)) return failVideo(name + ": cannot be written");
         hashes[name] = sha256OfFile((dir / name).string());
     }
 
     record.files = hashes;
+    written.push_back(dir / "incident.json");
     if (!writeFileAtomically((dir / "incident.json").string(), record.json()))
         return failVideo("incident.json: cannot be written");
     hashes["incident.json"] = sha256OfFile((dir / "incident.json").string());
 
     std::string sums;
     for (const auto& [name, hash] : hashes) sums += hash + "  " + name + "\n";
+    written.push_back(dir / "SHA256SUMS");
     if (!writeFileAtomically((dir / "SHA256SUMS").string(), sums)) return failVideo("SHA256SUMS: cannot be written");
     fs::rename(partial, dir / "incident.mp4", ec);
     if (ec) return failVideo("incident.mp4: " + ec.message());
+    step("done", 1);
     return true;
 }
 

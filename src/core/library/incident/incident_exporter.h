@@ -26,11 +26,12 @@ struct IncidentExport {
 
 class IncidentExporter {
 public:
-    // What is being done, for a progress line.
-    using Progress = std::function<void(const std::string& step)>;
+    // What is being done and how much of the whole is done (0 to 1), for a
+    // progress line; returning false cancels the export.
+    using Progress = std::function<bool(const std::string& step, double done)>;
 
-    // True when the whole folder was written. Otherwise false with why, and
-    // no incident.mp4 in the folder.
+    // True when the whole folder was written. Otherwise (failed or cancelled)
+    // false with why, and nothing of the export left in the folder.
     static bool write(const IncidentSpan& span, const IncidentExport& to, const Progress& progress, std::string* why);
 
     // Why `folder` cannot take an incident of the card at root ("" when it can):
