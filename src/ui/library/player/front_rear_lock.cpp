@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QTimer>
+
 #include "ui/library/player/mpv_player.h"
 
 namespace tarvik {
@@ -11,13 +13,16 @@ namespace {
 
 // An offset larger than this while playing is closed by a seek; a smaller
 // one by running the rear faster or slower, which no one sees.
-constexpr double kSeekBeyond = 0.25;
+constexpr double kSeekBeyond = 0.12;
 // Trim per second of offset, at most kMaxTrim either way: an offset of one
 // frame is made up within about a second.
 constexpr double kGain = 1.5;
 constexpr double kMaxTrim = 0.08;
 // Each time pair is off by up to a frame; the trim follows their average.
 constexpr double kSmoothing = 0.2;
+constexpr double kCatchUp = 0.2;
+// A rear this far ahead waits for the front: it stands still for as long.
+constexpr double kHoldBeyond = 0.045;
 // The rear's last frame starts a frame before its end.
 constexpr double kEndMargin = 0.02;
 
@@ -37,6 +42,7 @@ void FrontRearLock::lock(MpvPlayer* front, MpvPlayer* rear) {
     frontAt_ = rearAt_ = 0;
     lastTarget_ = 0.0;  // both open at their start
     seekSentAt_ = -1;
+    holdUntil_ = 0;
     if (!front || !rear) return;
     connections_ << connect(front, &MpvPlayer::rateRequested, this, &FrontRearLock::mirrorRate);
     connections_ << connect(front, &MpvPlayer::seekRequested, this, &FrontRearLock::mirrorSeek);
@@ -118,7 +124,7 @@ void FrontRearLock::standWithFront(double frontTime) {
 
 void FrontRearLock::playWithFront(double frontTime) {
     lastTarget_ = -1.0;
-    if (rear_->isSeeking()) return;
+    if (rear_->isSeeking() || clock_.elapsed() < holdUntil_) return;
     if (pastRearEnd(frontTime)) {
         // Somewhere else than at its end (a play from the start turned it back): there.
         if (!rear_->isEofReached() && rearTime_ < rear_->duration() - 0.5) seekRear(rear_->duration());
@@ -138,8 +144,20 @@ void FrontRearLock::playWithFront(double frontTime) {
         return;
     }
     offset_ += kSmoothing * (apart - offset_);
+    if (offset_ < -kHoldBeyond) {
+        const int ms = int(-offset_ * 1000.0 / std::fabs(rate));
+        holdUntil_ = clock_.elapsed() + ms;
+        offset_ = 0.0;
+        rearFresh_ = false;
+        rear_->setSpeedTrim(1.0);
+        rear_->setRate(0.0f);
+        QTimer::singleShot(ms, this, &FrontRearLock::follow);
+        return;
+    }
     const double direction = rate < 0.0f ? -1.0 : 1.0;
-    const double trim = 1.0 + std::clamp(kGain * offset_ * direction, -kMaxTrim, kMaxTrim);
+    // Behind by more than a frame it catches up quickly; within one, gently.
+    const double trim = offset_ > kHoldBeyond ? 1.0 + kCatchUp
+                                              : 1.0 + std::clamp(kGain * offset_ * direction, -kMaxTrim, kMaxTrim);
     // In steps of half a percent: mpv is not asked again for every frame.
     rear_->setSpeedTrim(std::round(trim * 200.0) / 200.0);
 }

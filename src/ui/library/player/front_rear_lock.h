@@ -54,6 +54,7 @@ private:
     bool rearFresh_ = true;
     double offset_ = 0.0;  // front minus rear while playing, smoothed
     double lastTarget_ = -1.0;
+    qint64 holdUntil_ = 0;  // the rear stands still until then, waiting for the front
     qint64 seekSentAt_ = -1;
     double seekLead_ = 0.1;  // how long a seek of the rear took while playing
 };
