@@ -144,8 +144,10 @@ void FrontRearLock::playWithFront(double frontTime) {
         return;
     }
     offset_ += kSmoothing * (apart - offset_);
-    if (offset_ < -kHoldBeyond) {
-        const int ms = int(-offset_ * 1000.0 / std::fabs(rate));
+    // How far the rear is behind in the direction of play.
+    const double behind = rate < 0.0f ? -offset_ : offset_;
+    if (behind < -kHoldBeyond) {
+        const int ms = int(-behind * 1000.0 / std::fabs(rate));
         holdUntil_ = clock_.elapsed() + ms;
         offset_ = 0.0;
         rearFresh_ = false;
@@ -154,10 +156,9 @@ void FrontRearLock::playWithFront(double frontTime) {
         QTimer::singleShot(ms, this, &FrontRearLock::follow);
         return;
     }
-    const double direction = rate < 0.0f ? -1.0 : 1.0;
     // Behind by more than a frame it catches up quickly; within one, gently.
-    const double trim = offset_ > kHoldBeyond ? 1.0 + kCatchUp
-                                              : 1.0 + std::clamp(kGain * offset_ * direction, -kMaxTrim, kMaxTrim);
+    const double trim =
+        behind > kHoldBeyond ? 1.0 + kCatchUp : 1.0 + std::clamp(kGain * behind, -kMaxTrim, kMaxTrim);
     // In steps of half a percent: mpv is not asked again for every frame.
     rear_->setSpeedTrim(std::round(trim * 200.0) / 200.0);
 }
