@@ -190,12 +190,12 @@ private slots:
 
         // An ordinary desktop: something else wants a core too.
         busy_.setStandardOutputFile(QProcess::nullDevice());
-        busy_.start("yes", {});
+        busy_.start("timeout", {"300", "yes"});  // bounded, should this test be killed
         QVERIFY(busy_.waitForStarted());
     }
 
     void cleanupTestCase() {
-        busy_.kill();
+        busy_.terminate();  // timeout passes it on to its child
         busy_.waitForFinished();
         window_.reset();
     }
