@@ -11,6 +11,7 @@ packages=(
   libmpv-dev ffmpeg libjs-leaflet libavformat-dev libavcodec-dev libavutil-dev
   libimage-exiftool-perl liburing-dev libcli11-dev nlohmann-json3-dev gpsbabel lintian
   libgtest-dev libgmock-dev libbenchmark-dev
+  mpv  # the plain player the playback benchmark compares with
   clang libclang-rt-14-dev
   xvfb xauth libgl1-mesa-dri libglx-mesa0
   desktop-file-utils appstream

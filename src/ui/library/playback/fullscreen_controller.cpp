@@ -89,30 +89,19 @@ void FullScreenController::showFullScreenMovie(OrvoAVView* view) {
     window_->setFocus();
 
     showFullscreenMovieControlWindow();
-    if (view == bigMovieView_) {
-        smallMovieView_->pause();
-    } else {
-        bigMovieView_->pause();
-        smallMovieView_->setVolume(volume_.volume());
-    }
+    // The other view plays on: it keeps one time with the shown one, and
+    // coming back shows both on the same frame without a seek.
+    if (view != bigMovieView_) smallMovieView_->setVolume(volume_.volume());
 }
 
 void FullScreenController::hideFullScreenMovie() {
     if (!isFullScreenMode_) return;
-    OrvoAVView* shown = fullScreenMovieView_;
     window_->hide();
     mirror_->setMovieSource(nullptr);
     hideFullscreenMovieControlWindow();
     isFullScreenMode_ = false;
     if (mapWebView_) mapWebView_->setHidden(mapHiddenOnFullScreen_);
 
-    OrvoAVView* other = shown == bigMovieView_ ? smallMovieView_ : bigMovieView_;
-    if (other->hasMovie()) {
-        const bool paused = transport_.isVideoPaused();
-        transport_.pauseVideo();
-        other->setCurrentTime(shown->currentTime());
-        if (!paused) transport_.playVideo();
-    }
     smallMovieView_->setVolume(0.0f);
     fullScreenMovieView_ = nullptr;
     if (mainWindow_) mainWindow_->activateWindow();

@@ -2,14 +2,12 @@
 
 #include <algorithm>
 
-#include <QApplication>
 #include <QFile>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QMessageBox>
 #include <QScrollArea>
 #include <QSlider>
-#include <QStandardPaths>
 #include <QTableView>
 #include <QThreadPool>
 #include <QVBoxLayout>
@@ -18,8 +16,6 @@
 #include "core/library/clip_catalogue.h"
 #include "core/library/clip_file_check.h"
 #include "core/library/recording_time.h"
-#include "core/library/conversion/clip_converter.h"
-#include "core/media/playable_files.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "ui/app/main_window.h"
@@ -27,6 +23,7 @@
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/library/playback/after_first_pictures.h"
+#include "ui/library/playback/card_clip_files.h"
 #include "ui/library/playback/card_reads.h"
 #include "ui/library/playback/clip_failure_watch.h"
 #include "ui/library/playback/clip_navigation.h"
@@ -35,12 +32,14 @@
 #include "ui/library/playback/dashboard_widgets.h"
 #include "ui/library/playback/fullscreen_control_bar.h"
 #include "ui/library/playback/fullscreen_controller.h"
+#include "ui/library/playback/next_clip_preloader.h"
 #include "ui/library/playback/picture_drag_pan.h"
 #include "ui/library/playback/play_animation.h"
 #include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/playback/telemetry_loader.h"
 #include "ui/library/playback/volume_controller.h"
 #include "ui/library/playback/zoom_controller.h"
+#include "ui/library/player/front_rear_lock.h"
 #include "ui/library/player/orvo_av_view.h"
 #include "ui/telemetry/gravity_graph_view.h"
 #include "ui/telemetry/map_controller.h"
@@ -127,6 +126,8 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
     failureWatch_ = new ClipFailureWatch(bigMovieView_, this);
     afterPictures_ = new AfterFirstPictures(this);
     telemetry_ = new TelemetryLoader(this);
+    lock_ = new FrontRearLock(this);
+    preloader_ = new NextClipPreloader(catalogue_, bigMovieView_, smallMovieView_, this);
     connect(telemetry_, &TelemetryLoader::loaded, this, &PlaybackController::showTelemetry);
     connect(failureWatch_, &ClipFailureWatch::failed, this, [this] {
         refuseClip(currentVideoUrl_, checkClipFile(currentVideoUrl_));
@@ -141,18 +142,7 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
         box->setWindowModality(Qt::WindowModal);
         box->open();
     };
-    convert_ = [](const std::string& clip) -> std::optional<std::vector<std::string>> {
-        // The players open the card's own files; nothing is copied on the way.
-        PlayableFiles playable = playableFilesOf(clip);
-        if (!playable.needsConversion) return std::move(playable.files);
-        // Splitting a two-camera AVI copies streams and is quick, but a long
-        // clip on a slow card can take a moment: say so with the pointer.
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-        auto files = ClipConverter(QFile::encodeName(documents).toStdString()).checkAndConvertVideo(clip);
-        QApplication::restoreOverrideCursor();
-        return files;
-    };
+    convert_ = cardClipFiles;
     connectButtons();
 }
 
@@ -210,9 +200,10 @@ void PlaybackController::showRecordingTime(const std::string& clip) {
 void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     dashboard_->resetVideoInformation();
     if (!fullScreen_->isFullScreenMode()) zoom_->resetForNewClip();
+    startPaused_ = false;
 
-    bigMovieView_->reset();
-    smallMovieView_->reset();
+    bigMovieView_->resetForNextClip();
+    smallMovieView_->resetForNextClip();
     bigVideoFilePath_.clear();
     smallVideoFilePath_.clear();
     clearTelemetry();
@@ -242,11 +233,13 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
         v_.switchVideoButton->setEnabled(false);
     }
     if (isMp4ClipPath(url)) catalogue_.setVideoSwitched(false);
+    lock_->lock(bigMovieView_->player(), files->size() >= 2 ? smallMovieView_->player() : nullptr);
 
     pictureViews_ = files->size() >= 2 ? QList<OrvoAVView*>{bigMovieView_, smallMovieView_}
                                        : QList<OrvoAVView*>{bigMovieView_};
     telemetry_->load(url);
     emit movieViewCoversNeedUpdate();
+
 }
 
 void PlaybackController::clearTelemetry() {
@@ -285,16 +278,14 @@ void PlaybackController::playVideo() {
     setPlayPauseImages("pause1");
     dashboard_->startVideoPlayTimer();
     animation_->startPlayAnimation();
-    bigMovieView_->play();
-    smallMovieView_->play();
+    frontView()->play();
 }
 
 void PlaybackController::pauseVideo() {
     if (isVideoPaused_) return;
     isVideoPaused_ = true;
     setPlayPauseImages("play_1");
-    bigMovieView_->pause();
-    smallMovieView_->pause();
+    frontView()->pause();
     dashboard_->stopVideoPlayTimer();
     animation_->stopPlayAnimation();
 }
@@ -302,8 +293,7 @@ void PlaybackController::pauseVideo() {
 void PlaybackController::stopVideo() {
     pauseVideo();
     isVideoPaused_ = true;
-    bigMovieView_->setCurrentTime(0.0);
-    smallMovieView_->setCurrentTime(0.0);
+    frontView()->setCurrentTime(0.0);
     dashboard_->stopVideoPlayTimer();
     seek_->setCurrentSliderValue(0.0);
     dashboard_->resetUpdateTimes();
@@ -312,14 +302,18 @@ void PlaybackController::stopVideo() {
     dashboard_->showMapCover();
 }
 
-void PlaybackController::setCurrentVideoTime(double seconds) {
-    bigMovieView_->setCurrentTime(seconds);
-    smallMovieView_->setCurrentTime(seconds);
+void PlaybackController::setCurrentVideoTime(double seconds) { frontView()->setCurrentTime(seconds); }
+
+OrvoAVView* PlaybackController::frontView() const {
+    return lock_->front() && lock_->front() == smallMovieView_->player() ? smallMovieView_ : bigMovieView_;
 }
+
+bool PlaybackController::isOpening() const { return !startedThisLoad_ && bigMovieView_->hasMovie(); }
 
 void PlaybackController::onMovieReady() {
     if (startedThisLoad_) return;
     startedThisLoad_ = true;
+    if (startPaused_) return;
     playVideo();
     animation_->startPlayAnimation();
 }
@@ -332,11 +326,13 @@ void PlaybackController::movieDidEnd() {
 
 void PlaybackController::setPlayingClip(const std::string& url) {
     currentVideoUrl_ = url;
+    preloader_->clipStarted(url);
     emit playingClipChanged(QByteArray::fromStdString(url));
 }
 
 void PlaybackController::closeClip() {
     failureWatch_->disarm();
+    lock_->release();
     bigMovieView_->reset();
     smallMovieView_->reset();
     setPlayingClip({});
@@ -367,6 +363,11 @@ void PlaybackController::showUnsupportedFileAlert() {
 }
 
 void PlaybackController::playPauseButtonTouched(QObject*) {
+    // Before the clip starts, the key decides how it starts.
+    if (isOpening()) {
+        startPaused_ = !startPaused_;
+        return;
+    }
     if (isVideoPaused_)
         playVideo();
     else
@@ -414,17 +415,19 @@ void PlaybackController::playPrevFileButtonTouched(QObject*) {
     if (p >= 0) selectRowAndPlay(p);
 }
 
+// The front steps; the rear is seeked to the front's new frame. A step
+// given while the clip opens is made once it is open, and the clip stays paused.
 void PlaybackController::rewindButtonTouched(QObject*) {
+    if (isOpening()) startPaused_ = true;
     pauseVideo();
-    bigMovieView_->stepBackward();
-    smallMovieView_->stepBackward();
+    frontView()->stepBackward();
     dashboard_->playVideoTimerCallback();
 }
 
 void PlaybackController::fastForwardButtonTouched(QObject*) {
+    if (isOpening()) startPaused_ = true;
     pauseVideo();
-    bigMovieView_->stepForward();
-    smallMovieView_->stepForward();
+    frontView()->stepForward();
     dashboard_->playVideoTimerCallback();
 }
 
@@ -454,8 +457,7 @@ void PlaybackController::volumeDown() { volume_->volumeDown(); }
 
 void PlaybackController::seekTimeSliderTouchedUp(double seconds) {
     dashboard_->resetUpdateTimes();
-    bigMovieView_->setCurrentTime(seconds);
-    smallMovieView_->setCurrentTime(seconds);
+    frontView()->setCurrentTime(seconds);
 }
 
 void PlaybackController::orvoAVViewDidUpdateStatus(OrvoAVView* view, OrvoAVViewStatus status) {
@@ -486,7 +488,8 @@ void PlaybackController::orvoAVViewDidUpdateTime(OrvoAVView* view, double) {
 }
 
 void PlaybackController::orvoAVViewDidPlayToEndTime(OrvoAVView* view) {
-    if (view != bigMovieView_) return;
+    // The front sets the time; a shorter rear holds its last picture meanwhile.
+    if (view != frontView()) return;
     // An end before any picture is a clip that could not be shown.
     if (!failureWatch_->hasShownPicture()) return failureWatch_->reportFailure();
     movieDidEnd();

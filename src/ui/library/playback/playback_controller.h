@@ -28,6 +28,8 @@ class ClipFailureWatch;
 enum class ClipFileState;
 class ClipSaver;
 class DashboardUpdater;
+class FrontRearLock;
+class NextClipPreloader;
 class FullScreenController;
 class OrvoAVView;
 class OrvoClipData;
@@ -136,6 +138,11 @@ private:
     // Ends the load of a clip that cannot be shown, with the alert that says why.
     void refuseClip(const std::string& url, ClipFileState state);
     void setPlayingClip(const std::string& url);
+    // The view whose player sets the time: the front camera's, wherever a
+    // swap has put it. The other view's player follows it.
+    OrvoAVView* frontView() const;
+    // A clip was asked for and has not started yet.
+    bool isOpening() const;
     void selectRowAndPlay(int row);
 
     const MainWindowViews& v_;
@@ -159,6 +166,8 @@ private:
     ClipFailureWatch* failureWatch_;
     AfterFirstPictures* afterPictures_;
     TelemetryLoader* telemetry_;
+    FrontRearLock* lock_;
+    NextClipPreloader* preloader_;
     // The views whose first pictures the route waits for.
     QList<OrvoAVView*> pictureViews_;
     AlertPresenter alert_;
@@ -171,6 +180,8 @@ private:
     // after both are ready: the clip starts once per load, so a pause given
     // in between is not undone by the second report.
     bool startedThisLoad_ = false;
+    // Space or a frame step while the clip opens: it starts paused.
+    bool startPaused_ = false;
 };
 
 }  // namespace tarvik

@@ -10,6 +10,7 @@
 #include <QOpenGLFramebufferObject>
 #include <QOpenGLFunctions>
 #include <QThreadPool>
+#include <QTimer>
 #include <clocale>
 #include <algorithm>
 #include <cmath>
@@ -29,7 +30,7 @@ const bool kShareContexts = [] {
 
 // Marks the reply to a load's duration question, next to its track-list question.
 constexpr uint64_t kDurationReplyTag = uint64_t(1) << 62;
-enum Observed : uint64_t { TimePos = 1, Duration, Pause, Speed, Direction, Eof, DisplayWidth, DisplayHeight };
+enum Observed : uint64_t { TimePos = 1, Duration, Pause, Speed, Direction, Eof, DisplayWidth, DisplayHeight, VoConfigured };
 // Replies to seek requests carry ids from here on.
 constexpr uint64_t kFirstSeekReply = 1000;
 
@@ -152,7 +153,6 @@ bool MpvPlayer::initGl() {
 
 void MpvPlayer::shutdown() {
     if (!mpv_) return;
-    // After this returns mpv calls neither callback again, so no queued call
     // can reach a deleted object.
     mpv_set_wakeup_callback(mpv_, nullptr, nullptr);
     if (render_ || fbo_) {
@@ -172,6 +172,19 @@ void MpvPlayer::shutdown() {
     // Ending mpv waits for its threads (a demuxer may be stuck on a bad
     // file); the interface does not wait for that.
     QThreadPool::globalInstance()->start([handle] { mpv_terminate_destroy(handle); });
+}
+
+void MpvPlayer::retire() {
+    if (!mpv_ || retiring_) return;
+    retiring_ = true;
+    // Once mpv has closed its video output by itself, nothing waits for a frame.
+    mpv_observe_property(mpv_, VoConfigured, "vo-configured", MPV_FORMAT_FLAG);
+    command({"stop"});
+    // A demuxer stuck on a bad card may never end the file.
+    QTimer::singleShot(1000, this, [this] {
+        shutdown();
+        deleteLater();
+    });
 }
 
 void MpvPlayer::onWakeup(void* self) {
@@ -198,7 +211,8 @@ uint64_t MpvPlayer::beginSeek() {
 
 void MpvPlayer::load(const QString& path, const QByteArray& localPath) {
     path_ = path;
-    loaded_ = hasVideo_ = eof_ = opening_ = false;
+    // A spare may have opened another file ahead: its picture is not this file's first.
+    loaded_ = hasVideo_ = eof_ = opening_ = hasFrame_ = false;
     pendingSteps_.clear();
     if (!mpv_) {
         QMetaObject::invokeMethod(this, &MpvPlayer::failed, Qt::QueuedConnection);
@@ -213,9 +227,14 @@ void MpvPlayer::load(const QString& path, const QByteArray& localPath) {
 void MpvPlayer::setRate(float rate) {
     if (!mpv_) return;
     rate_ = rate;
+    if (requestedRate_ != rate) {
+        requestedRate_ = rate;
+        emit rateRequested(rate);
+    }
     int pause = rate == 0.0f ? 1 : 0;
     if (!pause) {
-        double speed = std::fabs(rate);
+        baseSpeed_ = std::fabs(rate);
+        double speed = baseSpeed_ * trim_;
         const bool backward = rate < 0.0f;
         if (backward != backward_) {
             // Turning round restarts playback at the current time.
@@ -227,14 +246,36 @@ void MpvPlayer::setRate(float rate) {
     mpv_set_property_async(mpv_, 0, "pause", MPV_FORMAT_FLAG, &pause);
 }
 
+void MpvPlayer::setSpeedTrim(double trim) {
+    if (!mpv_ || trim == trim_) return;
+    trim_ = trim;
+    double speed = baseSpeed_ * trim_;
+    mpv_set_property_async(mpv_, 0, "speed", MPV_FORMAT_DOUBLE, &speed);
+}
+
 void MpvPlayer::seekExact(double seconds) {
     const QByteArray at = QByteArray::number(seconds, 'f', 6);
     eof_ = false;
     command({"seek", at.constData(), "absolute+exact"}, beginSeek());
+    emit seekRequested(seconds);
 }
 
-void MpvPlayer::frameStep() { runStep(Step::Forward); }
-void MpvPlayer::frameBackStep() { runStep(Step::Backward); }
+void MpvPlayer::frameStep() {
+    requestStill();
+    runStep(Step::Forward);
+}
+
+void MpvPlayer::frameBackStep() {
+    requestStill();
+    runStep(Step::Backward);
+}
+
+// mpv pauses after a step by itself; followers hear of it now.
+void MpvPlayer::requestStill() {
+    if (requestedRate_ == 0.0f) return;
+    requestedRate_ = 0.0f;
+    emit rateRequested(0.0f);
+}
 
 void MpvPlayer::runStep(Step step) {
     if (seeking_) {
@@ -333,6 +374,12 @@ void MpvPlayer::handleEvent(const mpv_event& e) {
         const auto* p = static_cast<const mpv_event_property*>(e.data);
         const bool has = p->format != MPV_FORMAT_NONE && p->data;
         switch (e.reply_userdata) {
+        case VoConfigured:
+            if (retiring_ && !(has && *static_cast<int*>(p->data))) {
+                shutdown();
+                deleteLater();
+            }
+            break;
         case TimePos:
             timePos_ = has ? *static_cast<double*>(p->data) : 0.0;
             if (has) emit timeChanged(timePos_);
@@ -344,8 +391,7 @@ void MpvPlayer::handleEvent(const mpv_event& e) {
             paused_ = has && *static_cast<int*>(p->data);
             updateRate();
             break;
-        case Speed:
-            if (has) speed_ = *static_cast<double*>(p->data);
+        case Speed:  // reported without the trim, which is the follower's own business
             updateRate();
             break;
         case Direction:
@@ -394,7 +440,7 @@ void MpvPlayer::handleTrackList(const mpv_node* tracks) {
 }
 
 void MpvPlayer::updateRate() {
-    rate_ = paused_ ? 0.0f : float(speed_) * (backward_ ? -1.0f : 1.0f);
+    rate_ = paused_ ? 0.0f : float(baseSpeed_) * (backward_ ? -1.0f : 1.0f);
     if (rate_ == reportedRate_) return;
     reportedRate_ = rate_;
     emit rateChanged(rate_);

@@ -34,11 +34,24 @@ public:
     // Stops everything and releases mpv and the GL objects; the object can
     // then be deleted later without waiting for mpv's threads to end.
     void shutdown();
+    // Stops playing, then shuts down and deletes itself once mpv has let go
+    // of the file. Freeing the picture's render context while mpv still
+    // waits for a frame to be drawn stalls the interface for up to 200 ms;
+    // once stopped, it is quick.
+    void retire();
 
     // 0 pauses; 1 plays; other values play faster, backwards when negative.
     void setRate(float rate);
+    // The rate mpv reports: 0 also while mpv holds the last picture of a clip.
     float rate() const { return rate_; }
+    // The rate last asked for; a frame step asks for 0.
+    float requestedRate() const { return requestedRate_; }
+    // Plays this much faster or slower than the rate asked for, without
+    // the rate reported changing: how a follower catches up with its leader.
+    void setSpeedTrim(double trim);
     void seekExact(double seconds);
+    // A seek (or load, or step back) is on its way to its picture.
+    bool isSeeking() const { return seeking_; }
     void frameStep();
     void frameBackStep();
     void setVolume(float volume);  // 0..1
@@ -63,6 +76,9 @@ signals:
     void loaded(bool hasVideo);
     void failed();
     void rateChanged(float rate);
+    // Sent as the command is given, before mpv carries it out.
+    void rateRequested(float rate);
+    void seekRequested(double seconds);
     void timeChanged(double seconds);
     void seeked();
     void endReached();
@@ -90,6 +106,7 @@ private:
     std::unique_ptr<QOffscreenSurface> surface_;
     std::unique_ptr<QOpenGLFramebufferObject> fbo_;
     bool hasFrame_ = false;
+    bool retiring_ = false;
     bool frameOwed_ = false;  // mpv has a frame not yet drawn at the picture's size
 
     QString path_;
@@ -100,6 +117,7 @@ private:
     // and must not release the steps, or they reach mpv mid-seek.
     enum class Step { Forward, Backward };
     void runStep(Step step);
+    void requestStill();
     void runPendingSteps();
     bool seeking_ = false;
     uint64_t seekReply_ = 0;  // reply id of the latest seek request
@@ -115,8 +133,10 @@ private:
     bool eof_ = false;
     bool paused_ = true;
     bool backward_ = false;
-    double speed_ = 1.0;
+    double baseSpeed_ = 1.0;  // the speed asked for, without the trim
+    double trim_ = 1.0;
     float rate_ = 0.0f;
+    float requestedRate_ = 0.0f;
     float reportedRate_ = 0.0f;
     float volume_ = 1.0f;
     bool muted_ = false;

@@ -88,6 +88,7 @@ void OrvoAVView::prepareAsset() {
     if (status_ == OrvoAVViewStatusLoading) return;
     noVideoView_->hide();
     loadingSpinner_->show();
+    const bool preloaded = spare_ && spare_->isLoaded() && spare_->path() == fileName_;
     player_ = takePlayer();
     rebuildObservers();
     showPlayer(player_);
@@ -99,7 +100,24 @@ void OrvoAVView::prepareAsset() {
         return;
     }
     loadWatchdog_->start(kLoadTimeoutMs);
+    if (preloaded) return adoptPreloaded();
     player_->load(fileName_, localPath());
+}
+
+void OrvoAVView::preload(const QByteArray& localPath) {
+    if (status_ == OrvoAVViewStatusLoading) return;
+    if (!spare_) spare_ = new MpvPlayer(this);
+    if (spare_->path() != QFile::decodeName(localPath)) spare_->load(QFile::decodeName(localPath), localPath);
+}
+
+void OrvoAVView::adoptPreloaded() {
+    // Its reports went out before anyone listened: they are made here again.
+    setUpPlaybackOfAsset(player_->hasVideo());
+    if (!player_->hasVideo() || !player_->textureId()) return;
+    stopLoadingAnimationAndHandleError(false);
+    setPictureVisible(true);
+    emit firstFrameShown();
+    keepSpareIn(100);
 }
 
 MpvPlayer* OrvoAVView::takePlayer() {
@@ -305,16 +323,34 @@ void OrvoAVView::swapPlayerItemWith(OrvoAVView* other) {
     emit other->pictureChanged();
 }
 
+void OrvoAVView::resetForNextClip() {
+    retireOnClose_ = true;
+    close();
+    retireOnClose_ = false;
+}
+
 void OrvoAVView::close() {
     requestedRate_ = 0.0f;
     if (player_) {
         player_->setRate(0.0f);
         removeObservers();
         showPlayer(nullptr);
-        player_->shutdown();
-        player_->deleteLater();
+        if (retireOnClose_) {
+            retiring_ << player_;
+            player_->retire();
+        } else {
+            player_->shutdown();
+            player_->deleteLater();
+        }
         player_ = nullptr;
     }
+    // Closed for good (the card is released): nothing may hold a file of it.
+    if (!retireOnClose_) {
+        for (const auto& p : std::as_const(retiring_))
+            if (p) p->shutdown();
+        retiring_.clear();
+    }
+    retiring_.removeAll(nullptr);
     loadWatchdog_->stop();
     loadingSpinner_->hide();
     noVideoView_->hide();

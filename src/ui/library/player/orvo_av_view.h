@@ -5,6 +5,7 @@
 // followed by setFileName(path).
 
 #include <QImage>
+#include <QPointer>
 #include <QString>
 #include <QUrl>
 
@@ -48,6 +49,10 @@ public:
     // valid UTF-8: the player opens exactly these bytes.
     void setFilePath(const QByteArray& localPath);
     QByteArray localPath() const;
+    // Opens the file in the view's spare player, paused at its start, so that
+    // setFilePath of the same file shows its first picture at once: the next
+    // clip of a trip follows the last picture of the clip before.
+    void preload(const QByteArray& localPath);
 
     void play();
     void pause();
@@ -81,6 +86,9 @@ public:
 
     void close();
     void reset() { close(); }
+    // The same, for a clip followed by another: the player stops and goes
+    // in the background, and the next clip's pictures need not wait for it.
+    void resetForNextClip();
 
     // The player whose pictures this view shows (for a full-screen mirror).
     MpvPlayer* player() const { return player_; }
@@ -103,6 +111,8 @@ private:
     MpvPlayer* takePlayer();
     void keepSpareIn(int ms);
     void prepareAsset();
+    // Takes up a spare player that already opened this view's file.
+    void adoptPreloaded();
     void setUpPlaybackOfAsset(bool hasVideo);
     void rebuildObservers();
     void removeObservers();
@@ -124,6 +134,9 @@ private:
     // A player made while nothing was opening, so that the next clip does not
     // wait for mpv and its OpenGL context to start.
     MpvPlayer* spare_ = nullptr;
+    // Players of earlier clips still letting go of their files.
+    QList<QPointer<MpvPlayer>> retiring_;
+    bool retireOnClose_ = false;
     QList<QMetaObject::Connection> observers_;
     long long lastTick_ = -1;
     float requestedRate_ = 0.0f;
