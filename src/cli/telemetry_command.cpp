@@ -1,6 +1,5 @@
 // tarvik telemetry CLIP [--format csv|gpx|geojson|kml] [--krt]
 // Reads a clip's telemetry the way the player does and prints it.
-#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -13,8 +12,7 @@ extern "C" {
 }
 
 #include "cli/commands.h"
-#include "core/media/subtitle_track.h"
-#include "core/telemetry/krt_clip_name.h"
+#include "core/media/clip_telemetry_reading.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/route_exporter.h"
 
@@ -23,11 +21,6 @@ namespace tarvik::cli {
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string lower(std::string s) {
-    for (char& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return s;
-}
 
 int usage() {
     std::fprintf(stderr, "usage: tarvik telemetry CLIP [--format csv|gpx|geojson|kml] [--krt]\n");
@@ -57,17 +50,9 @@ int telemetryCommand(int argc, char** argv) {
 
     auto data = std::make_unique<OrvoClipData>();
     const std::string name = clip.filename().string();
-    if (lower(clip.extension().string()) == ".mp4") {
-        // A damaged clip must not fill the terminal with libav's complaints.
-        av_log_set_level(AV_LOG_QUIET);
-        // Its telemetry is in a subtitle track, read in-process; a clip
-        // that cannot be read has none, like any other clip without telemetry.
-        SubtitleTrack::load(clip.string(), *data);
-    } else if (krt || isKrtClipName(name)) {
-        data->loadVideoFileCilpDataFromFilePath_KRT(clip.string());
-    } else {
-        data->loadVideoFileCilpDataFromFilePath(clip.string());
-    }
+    // A damaged clip must not fill the terminal with libav's complaints.
+    av_log_set_level(AV_LOG_QUIET);
+    readClipTelemetry(clip.string(), *data, nullptr, krt);
 
     std::string out;
     if (format == "csv") out = RouteExporter::csv(*data);

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "cardgen/other_camera_layouts.h"
 #include "cardgen/video_maker.h"
 
 namespace tarvik::cardgen {
@@ -19,6 +20,7 @@ enum class TelemetryFormat {
     SrtTrack,     // mov_text subtitle track (mp4/mov)
     AviChunks,    // binary 'M' / NMEA / 'T' chunks of the general family
     AviChunksKrt, // binary chunks of the KRT family
+    OtherCamera,  // another family's layout (ClipPlan::other)
 };
 
 struct ClipPlan {
@@ -27,6 +29,7 @@ struct ClipPlan {
     TelemetryFormat telemetry = TelemetryFormat::None;
     // Where in the demo drive this clip starts, so consecutive clips continue the route.
     int driveOffsetSeconds = 0;
+    OtherLayout other = OtherLayout::Gpmf;
 };
 
 struct ExtraFile {
