@@ -62,6 +62,10 @@ using CardProgress = std::function<void(std::size_t index, std::size_t count, co
 // clipSeconds each, back to back from 10:00:00, telemetry in the front clips.
 CardPlan tripCardPlan(int pairs, int clipSeconds, int width = 64, int height = 36);
 
+// Clips of other camera families (one recording each, back to back from
+// 10:00:00): their folders, names, front/rear letters and telemetry layouts.
+CardPlan otherCameraCardPlan(int clipSeconds, int width = 64, int height = 36);
+
 // Writes the whole card below root. Returns false with a message on failure.
 bool writeCard(const CardPlan& plan, const std::filesystem::path& root, std::string* error = nullptr,
                const CardProgress& progress = {});

@@ -52,6 +52,15 @@ bool Mp4BoxWriter::load(const std::filesystem::path& mp4) {
     return true;
 }
 
+bool Mp4BoxWriter::setCreationTime(std::int64_t unixSeconds) {
+    const std::size_t at = moovChildren_.find("mvhd");
+    if (at == std::string::npos || at + 12 > moovChildren_.size() || moovChildren_[at + 4] != 0) return false;
+    std::string t;
+    putBe32(t, static_cast<std::uint32_t>(unixSeconds + 2082844800LL));  // seconds since 1904
+    moovChildren_.replace(at + 8, 4, t);
+    return true;
+}
+
 bool Mp4BoxWriter::save(const std::filesystem::path& out) const {
     std::ofstream f(out, std::ios::binary | std::ios::trunc);
     const std::string moov = box("moov", moovChildren_);

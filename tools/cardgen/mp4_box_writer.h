@@ -26,6 +26,8 @@ public:
     std::uint64_t nextOffset() const { return head_.size() + extra_.size(); }
     void addTopLevel(const std::string& boxBytes) { extra_ += boxBytes; }
     void addToMoov(const std::string& boxBytes) { moovChildren_ += boxBytes; }
+    // Sets mvhd's creation time (seconds since 1970), as a camera's clock writes it.
+    bool setCreationTime(std::int64_t unixSeconds);
     bool save(const std::filesystem::path& out) const;
 
 private:

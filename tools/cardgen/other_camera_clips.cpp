@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr long long kUnixStartMs = 1795163400000LL;  // 2026-11-21 08:30:00 UTC, the drive's start
+constexpr long long kUnixStartMs = 1795249800000LL;  // 2026-11-21 08:30:00 UTC, the drive's start
 
 // A "gpmd" metadata track whose samples, one a second, lie at `offsets`.
 std::string gpmdTrack(const std::vector<std::uint32_t>& sizes, const std::vector<std::uint64_t>& offsets) {
@@ -126,6 +126,7 @@ bool writeOtherCameraClip(OtherLayout layout, const VideoSpec& video, int from, 
         if (log) *log = "ffmpeg wrote no MP4 with moov at its end: " + out.string();
         return false;
     }
+    w.setCreationTime(kUnixStartMs / 1000 + 90 * 60 + from);  // the clips of the drive start at 10:00
     std::vector<std::string> payloads;
     switch (layout) {
     case L::Gpmf:

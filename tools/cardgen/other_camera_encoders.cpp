@@ -16,7 +16,7 @@ namespace tarvik::cardgen {
 namespace {
 
 constexpr int kClockStart = 8 * 3600 + 30 * 60;  // the drive starts at 08:30:00
-constexpr long long kUnixStart = 1795163400;      // 2026-11-21 08:30:00 UTC
+constexpr long long kUnixStart = 1795249800;      // 2026-11-21 08:30:00 UTC
 constexpr double kScal = 418.0;                   // ACCL counts per m/s^2
 constexpr double kGravity = 9.80665;
 

@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "core/library/recording_time.h"
+
 namespace tarvik {
 
 namespace {
@@ -184,7 +186,17 @@ std::string ClipCatalogue::partnerPath(std::string_view path) {
     };
     if (contains(path, "F.")) return swapAll('F', 'R');
     if (contains(path, "R.")) return swapAll('R', 'F');
-    return {};
+    // Cameras that name the two cameras A and B put the letter right after the
+    // recording time (20261121083000A.MP4, 2026_1121_083000_B.MP4): only there
+    // is it a camera's letter, and the partner then has the same time.
+    const std::string_view name = fileName(path);
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string_view::npos || dot < 2 || !recordingMomentFromName(name)) return {};
+    const char letter = name[dot - 1], before = name[dot - 2];
+    if ((letter != 'A' && letter != 'B') || !(before == '_' || (before >= '0' && before <= '9'))) return {};
+    std::string s(path);
+    s[path.size() - name.size() + dot - 1] = letter == 'A' ? 'B' : 'A';
+    return s;
 }
 
 void ClipCatalogue::refreshVideoFileListWithURL(const std::string& dir) {
@@ -195,11 +207,21 @@ void ClipCatalogue::refreshVideoFileListWithURL(const std::string& dir) {
 void ClipCatalogue::refreshVideoFileList() {
     all_.clear();
     if (!root_.empty()) {
-        scanInto(root_, false, true, all_);
         std::string folder = root_;
         if (folder.back() != '/') folder.push_back('/');
         const std::size_t base = folder.size();
+        bool ownLayout = false;
         for (std::string_view name : kRecordingFolders) {
+            folder.resize(base);
+            folder.append(name);
+            struct stat st;
+            ownLayout = ownLayout || (lstat(folder.c_str(), &st) == 0 && S_ISDIR(st.st_mode));
+        }
+        // A card of other cameras (or any folder the user chose) keeps its
+        // clips in folders of its own naming: all of them are looked through.
+        scanInto(root_, !ownLayout, true, all_);
+        for (std::string_view name : kRecordingFolders) {
+            if (!ownLayout) break;
             folder.resize(base);
             folder.append(name);
             // A recording folder that is a link would lead off the card.

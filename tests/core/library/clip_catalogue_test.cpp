@@ -75,6 +75,13 @@ TEST_F(TempCard, ScanTakesRootAndListedFoldersAtAnyDepthOnly) {
     EXPECT_TRUE(ClipCatalogue::getVideoFilesInDirectoryUrl("", true).empty());
 }
 
+TEST_F(TempCard, CardsOfOtherCamerasAreLookedThroughWhole) {
+    // No recording folder of the viewer's own cameras: every folder counts.
+    touch({"DCIM/100MEDIA/GX010001.MP4", "Normal/Front/2026_1121_083000_F.MP4", "top.mov", ".hidden/x.mp4"});
+    cat.refreshVideoFileListWithURL(root);
+    EXPECT_EQ(sorted(names(cat.allVideoFileList())), (Strings{"2026_1121_083000_F.MP4", "GX010001.MP4", "top.mov"}));
+}
+
 TEST_F(TempCard, ClipFilesAreDecidedByExtensionAlone) {
     for (const char* n : {"CLIP.MP4", "clip.Mov", "x.avi", "empty.mp4", "clip.mpg", "clip.mp4.tmp", ".hidden.mp4", "mp4",
                           "clip.mp", "clip.mp4 ", "clip."})
@@ -176,6 +183,11 @@ TEST_F(TempCard, PairSwapReplacesEveryOccurrence) {
     EXPECT_EQ(cat.takeBigVideoURL(0), f);
 
     EXPECT_EQ(ClipCatalogue::partnerPath("/a/x_F.mp4"), "/a/x_R.mp4");
+    // A and B only right after a recording time.
+    EXPECT_EQ(ClipCatalogue::partnerPath("/a/20261121083000A.MP4"), "/a/20261121083000B.MP4");
+    EXPECT_EQ(ClipCatalogue::partnerPath("/a/2026_1121_083000_B.MP4"), "/a/2026_1121_083000_A.MP4");
+    EXPECT_EQ(ClipCatalogue::partnerPath("/A.x/DATA.mp4"), "");
+    EXPECT_EQ(ClipCatalogue::partnerPath("/a/clip_A.mp4"), "");
     EXPECT_EQ(ClipCatalogue::partnerPath("/a/x_R.mp4"), "/a/x_F.mp4");
     EXPECT_EQ(ClipCatalogue::partnerPath("/F.d/x_R.mp4"), "/R.d/x_R.mp4");  // F. wins over R.
     EXPECT_EQ(ClipCatalogue::partnerPath("/a/x.mp4"), "");
