@@ -13,44 +13,7 @@ namespace {
 
 constexpr long long kUnixStartMs = 1795249800000LL;  // 2026-11-21 08:30:00 UTC, the drive's start
 
-// A "gpmd" metadata track whose samples, one a second, lie at `offsets`.
-std::string gpmdTrack(const std::vector<std::uint32_t>& sizes, const std::vector<std::uint64_t>& offsets) {
-    const auto n = static_cast<std::uint32_t>(sizes.size());
-    std::string tkhd;
-    for (std::uint32_t v : {0u, 0u, 99u, 0u, n * 1000}) putBe32(tkhd, v);
-    tkhd.append(8 + 8, '\0');
-    for (std::uint32_t v : {0x10000u, 0u, 0u, 0u, 0x10000u, 0u, 0u, 0u, 0x40000000u}) putBe32(tkhd, v);
-    tkhd.append(8, '\0');
-    std::string mdhd;
-    for (std::uint32_t v : {0u, 0u, 1000u, n * 1000}) putBe32(mdhd, v);
-    putBe32(mdhd, 0x55c40000);  // language "und"
-    std::string hdlr(4, '\0');
-    hdlr += "meta";
-    hdlr.append(12, '\0');
-    hdlr += std::string("GoPro MET") + '\0';
-    std::string entry(6, '\0');
-    putBe16(entry, 1);
-    putBe32(entry, 0);
-    std::string stsd;
-    putBe32(stsd, 1);
-    stsd += box("gpmd", entry);
-    std::string stts, stsc, stsz, stco;
-    for (std::uint32_t v : {1u, n, 1000u}) putBe32(stts, v);
-    for (std::uint32_t v : {1u, 1u, 1u, 1u}) putBe32(stsc, v);
-    putBe32(stsz, 0);
-    putBe32(stsz, n);
-    for (std::uint32_t s : sizes) putBe32(stsz, s);
-    putBe32(stco, n);
-    for (std::uint64_t o : offsets) putBe32(stco, static_cast<std::uint32_t>(o));
-    std::string dref;
-    putBe32(dref, 1);
-    dref += fullBox("url ", "", 1);
-    const std::string stbl = box("stbl", fullBox("stsd", stsd) + fullBox("stts", stts.substr(0)) +
-                                             fullBox("stsc", stsc) + fullBox("stsz", stsz) + fullBox("stco", stco));
-    const std::string minf = box("minf", fullBox("nmhd", "") + box("dinf", fullBox("dref", dref)) + stbl);
-    const std::string mdia = box("mdia", fullBox("mdhd", mdhd) + fullBox("hdlr", hdlr) + minf);
-    return box("trak", fullBox("tkhd", tkhd, 7) + mdia);
-}
+
 
 // Payloads in one added mdat box; returns their offsets.
 std::vector<std::uint64_t> addMediaData(Mp4BoxWriter& w, const std::vector<std::string>& payloads) {
@@ -92,6 +55,45 @@ std::string srtTime(int s) {
 }
 
 }  // namespace
+
+std::string metadataTrack(const char* handler, const char* format, const std::vector<std::uint32_t>& sizes,
+                          const std::vector<std::uint64_t>& offsets) {
+    const auto n = static_cast<std::uint32_t>(sizes.size());
+    std::string tkhd;
+    for (std::uint32_t v : {0u, 0u, 99u, 0u, n * 1000}) putBe32(tkhd, v);
+    tkhd.append(8 + 8, '\0');
+    for (std::uint32_t v : {0x10000u, 0u, 0u, 0u, 0x10000u, 0u, 0u, 0u, 0x40000000u}) putBe32(tkhd, v);
+    tkhd.append(8, '\0');
+    std::string mdhd;
+    for (std::uint32_t v : {0u, 0u, 1000u, n * 1000}) putBe32(mdhd, v);
+    putBe32(mdhd, 0x55c40000);  // language "und"
+    std::string hdlr(4, '\0');
+    hdlr += handler;
+    hdlr.append(12, '\0');
+    hdlr += std::string("Telemetry") + '\0';
+    std::string entry(6, '\0');
+    putBe16(entry, 1);
+    putBe32(entry, 0);
+    std::string stsd;
+    putBe32(stsd, 1);
+    stsd += box(format, entry);
+    std::string stts, stsc, stsz, stco;
+    for (std::uint32_t v : {1u, n, 1000u}) putBe32(stts, v);
+    for (std::uint32_t v : {1u, 1u, 1u, 1u}) putBe32(stsc, v);
+    putBe32(stsz, 0);
+    putBe32(stsz, n);
+    for (std::uint32_t s : sizes) putBe32(stsz, s);
+    putBe32(stco, n);
+    for (std::uint64_t o : offsets) putBe32(stco, static_cast<std::uint32_t>(o));
+    std::string dref;
+    putBe32(dref, 1);
+    dref += fullBox("url ", "", 1);
+    const std::string stbl = box("stbl", fullBox("stsd", stsd) + fullBox("stts", stts.substr(0)) +
+                                             fullBox("stsc", stsc) + fullBox("stsz", stsz) + fullBox("stco", stco));
+    const std::string minf = box("minf", fullBox("nmhd", "") + box("dinf", fullBox("dref", dref)) + stbl);
+    const std::string mdia = box("mdia", fullBox("mdhd", mdhd) + fullBox("hdlr", hdlr) + minf);
+    return box("trak", fullBox("tkhd", tkhd, 7) + mdia);
+}
 
 bool writeOtherCameraClip(OtherLayout layout, const VideoSpec& video, int from, const fs::path& out,
                           WrittenTelemetry* written, std::string* log) {
@@ -136,7 +138,7 @@ bool writeOtherCameraClip(OtherLayout layout, const VideoSpec& video, int from, 
             payloads.push_back(gpmfSecond(from + i, layout == L::Gpmf9, written, i));
             sizes.push_back(static_cast<std::uint32_t>(payloads.back().size()));
         }
-        w.addToMoov(gpmdTrack(sizes, addMediaData(w, payloads)));
+        w.addToMoov(metadataTrack("meta", "gpmd", sizes, addMediaData(w, payloads)));
         break;
     }
     case L::FreeGpsIndexed:

@@ -4,6 +4,7 @@
 // descriptions of those layouts. Each writer also says what the file holds
 // after the layout's rounding, which is what a reader must give back.
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -54,6 +55,10 @@ std::string gpsRecord(int driveSecond, WrittenTelemetry* written = nullptr, doub
 std::string nmeaLog(int driveOffset, int seconds, long long startMs, WrittenTelemetry* written = nullptr);
 // 10-byte G records at 10 Hz.
 std::string gTable(int driveOffset, int seconds, WrittenTelemetry* written = nullptr);
+// A track of one sample a second (1000 ticks a second) whose samples lie at
+// `offsets`: handler "meta" and format "gpmd" for GPMF, say.
+std::string metadataTrack(const char* handler, const char* format, const std::vector<std::uint32_t>& sizes,
+                          const std::vector<std::uint64_t>& offsets);
 // An NMEA sentence with its checksum: "$" + body + "*hh".
 std::string nmeaSentence(const std::string& body);
 
