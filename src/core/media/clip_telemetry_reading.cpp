@@ -6,6 +6,7 @@
 #include "core/telemetry/content_telemetry.h"
 #include "core/telemetry/krt_clip_name.h"
 #include "core/telemetry/orvo_clip_data.h"
+#include "core/telemetry/subtitle_data.h"
 
 namespace tarvik {
 
@@ -32,6 +33,9 @@ void readClipTelemetry(const std::string& path, OrvoClipData& data, SubtitleData
     if (ext == ".mp4" || ext == ".mov") {
         SubtitleTrack::load(path, data, cues);
         if (data.clipDataCount() > 0) return;
+        // A track of cues that are not the viewer's own telemetry (NMEA text,
+        // say) must not stand in for the samples read below.
+        if (cues) cues->loadFromText({});
         // Other families keep theirs in boxes and tracks of their own; a MOV
         // may also carry the tail text or records of the AVI cameras.
         if (readTelemetryByContent(path, data) == 0) data.loadVideoFileCilpDataFromFilePath(path);
