@@ -36,9 +36,11 @@ void readClipTelemetry(const std::string& path, OrvoClipData& data, SubtitleData
         // A track of cues that are not the viewer's own telemetry (NMEA text,
         // say) must not stand in for the samples read below.
         if (cues) cues->loadFromText({});
-        // Other families keep theirs in boxes and tracks of their own; a MOV
-        // may also carry the tail text or records of the AVI cameras.
-        if (readTelemetryByContent(path, data) == 0) data.loadVideoFileCilpDataFromFilePath(path);
+        // Other families keep theirs in boxes and tracks of their own. A MOV
+        // may also carry the tail text or records of the AVI cameras; an MP4
+        // is not scanned for them (a whole clip read from the card, while it
+        // plays, for nothing).
+        if (readTelemetryByContent(path, data) == 0 && ext == ".mov") data.loadVideoFileCilpDataFromFilePath(path);
         return;
     }
     if (krt || isKrtClipName(fileName(path))) {
