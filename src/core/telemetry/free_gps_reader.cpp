@@ -145,6 +145,7 @@ int readFreeGpsIndexed(const BoundedFile& file, OrvoClipData& out) {
     mp4::Box moov, index;
     if (findTop(top, "moov", moov) && mp4::findChild(file, moov, "gps ", index) && index.size() > 8) {
         const std::string head = mp4::payload(file, index, 8 + kMaxBlocks * 8);
+        if (head.size() < 8) return timed.finish(out);
         const auto* p = reinterpret_cast<const unsigned char*>(head.data());
         const std::size_t count = std::min<std::size_t>(mp4::be32(p + 4), (head.size() - 8) / 8);
         for (std::size_t i = 0; i < count; ++i)

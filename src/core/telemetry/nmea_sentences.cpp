@@ -46,7 +46,9 @@ bool degrees(std::string_view s, char hemi, char positive, char negative, double
 
 double timeOfDay(std::string_view s) {
     double v;
-    if (s.size() < 6 || !number(s, v) || v < 0) return -1;
+    for (std::size_t i = 0; i < 6 && i < s.size(); ++i)
+        if (s[i] < '0' || s[i] > '9') return -1;
+    if (s.size() < 6 || !number(s, v)) return -1;
     const int h = (s[0] - '0') * 10 + (s[1] - '0');
     const int m = (s[2] - '0') * 10 + (s[3] - '0');
     const double sec = v - std::floor(v / 100.0) * 100.0;
