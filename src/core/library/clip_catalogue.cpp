@@ -8,7 +8,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "core/library/recording_time.h"
 
 namespace tarvik {
 
@@ -186,17 +185,7 @@ std::string ClipCatalogue::partnerPath(std::string_view path) {
     };
     if (contains(path, "F.")) return swapAll('F', 'R');
     if (contains(path, "R.")) return swapAll('R', 'F');
-    // Cameras that name the two cameras A and B put the letter right after the
-    // recording time (20261121083000A.MP4, 2026_1121_083000_B.MP4): only there
-    // is it a camera's letter, and the partner then has the same time.
-    const std::string_view name = fileName(path);
-    const std::size_t dot = name.rfind('.');
-    if (dot == std::string_view::npos || dot < 2 || !recordingMomentFromName(name)) return {};
-    const char letter = name[dot - 1], before = name[dot - 2];
-    if ((letter != 'A' && letter != 'B') || !(before == '_' || (before >= '0' && before <= '9'))) return {};
-    std::string s(path);
-    s[path.size() - name.size() + dot - 1] = letter == 'A' ? 'B' : 'A';
-    return s;
+    return {};
 }
 
 void ClipCatalogue::refreshVideoFileListWithURL(const std::string& dir) {

@@ -20,6 +20,20 @@ bool isFront(std::string_view name) {
     return name.find("R.") == std::string_view::npos && dot != std::string_view::npos && dot > 0 && name[dot - 1] == 'A';
 }
 
+// Cameras that name their two cameras A and B put the letter right after the
+// recording time (20261121083000A.MP4, 2026_1121_083000_B.MP4): only there is
+// it a camera's letter, and the partner then has the same time.
+std::string letterPartner(std::string_view path) {
+    const std::string_view name = ClipCatalogue::fileName(path);
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string_view::npos || dot < 2 || !recordingMomentFromName(name)) return {};
+    const char letter = name[dot - 1], before = name[dot - 2];
+    if ((letter != 'A' && letter != 'B') || !(before == '_' || (before >= '0' && before <= '9'))) return {};
+    std::string s(path);
+    s[path.size() - name.size() + dot - 1] = letter == 'A' ? 'B' : 'A';
+    return s;
+}
+
 }  // namespace
 
 std::optional<std::int64_t> clipStartFromName(std::string_view name) {
@@ -53,7 +67,8 @@ std::vector<TripClip> TripBuilder::pairUp(const std::vector<std::string>& clips)
         TripClip c;
         c.path = p;
         c.start = *start;
-        const std::string partner = ClipCatalogue::partnerPath(p);
+        std::string partner = ClipCatalogue::partnerPath(p);
+        if (partner.empty()) partner = letterPartner(p);
         if (!partner.empty() && partner != p && all.count(partner)) {
             taken.insert(partner);
             c.partner = partner;
