@@ -20,7 +20,7 @@ int readNmeaTrack(const BoundedFile& file, OrvoClipData& out) {
     mp4::Box moov;
     for (const mp4::Box& b : mp4::topLevel(file))
         if (b.is("moov")) moov = b;
-    if (!moov.end) return 0;
+    if (!moov.end) return timed.finish(out);
     std::string buf;
     for (const mp4::Track& t : mp4::tracks(file, moov)) {
         if (!(t.handlerIs("text") || t.handlerIs("sbtl") || t.handlerIs("subt")) ||
