@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "cardgen/other_camera_layouts.h"
 #include "cardgen/video_maker.h"
 
 namespace tarvik::cardgen {
@@ -19,6 +20,7 @@ enum class TelemetryFormat {
     SrtTrack,     // mov_text subtitle track (mp4/mov)
     AviChunks,    // binary 'M' / NMEA / 'T' chunks of the general family
     AviChunksKrt, // binary chunks of the KRT family
+    OtherCamera,  // another family's layout (ClipPlan::other)
 };
 
 struct ClipPlan {
@@ -27,6 +29,7 @@ struct ClipPlan {
     TelemetryFormat telemetry = TelemetryFormat::None;
     // Where in the demo drive this clip starts, so consecutive clips continue the route.
     int driveOffsetSeconds = 0;
+    OtherLayout other = OtherLayout::Gpmf;
 };
 
 struct ExtraFile {
@@ -58,6 +61,10 @@ using CardProgress = std::function<void(std::size_t index, std::size_t count, co
 // One drive in continuous recording: `pairs` front/rear AVI pairs of
 // clipSeconds each, back to back from 10:00:00, telemetry in the front clips.
 CardPlan tripCardPlan(int pairs, int clipSeconds, int width = 64, int height = 36);
+
+// Clips of other camera families (one recording each, back to back from
+// 10:00:00): their folders, names, front/rear letters and telemetry layouts.
+CardPlan otherCameraCardPlan(int clipSeconds, int width = 64, int height = 36);
 
 // Writes the whole card below root. Returns false with a message on failure.
 bool writeCard(const CardPlan& plan, const std::filesystem::path& root, std::string* error = nullptr,

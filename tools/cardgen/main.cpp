@@ -1,4 +1,4 @@
-// tarvik-democard --out DIR [--seconds N] [--size WxH]
+// tarvik-democard --out DIR [--seconds N] [--size WxH] [--other-cameras]
 // Writes the demo memory card that `make run` opens when no camera card is present.
 #include <cstdio>
 #include <cstdlib>
@@ -10,18 +10,20 @@
 int main(int argc, char** argv) {
     std::string out;
     tarvik::cardgen::CardOptions options;
+    bool other = false;
     for (int i = 1; i < argc; ++i) {
         if (!std::strcmp(argv[i], "--out") && i + 1 < argc) out = argv[++i];
         else if (!std::strcmp(argv[i], "--seconds") && i + 1 < argc) options.seconds = std::atof(argv[++i]);
+        else if (!std::strcmp(argv[i], "--other-cameras")) other = true;
         else if (!std::strcmp(argv[i], "--size") && i + 1 < argc)
             std::sscanf(argv[++i], "%dx%d", &options.width, &options.height);
         else {
-            std::fprintf(stderr, "usage: %s --out DIR [--seconds N] [--size WxH]\n", argv[0]);
+            std::fprintf(stderr, "usage: %s --out DIR [--seconds N] [--size WxH] [--other-cameras]\n", argv[0]);
             return 2;
         }
     }
     if (out.empty()) {
-        std::fprintf(stderr, "usage: %s --out DIR [--seconds N] [--size WxH]\n", argv[0]);
+        std::fprintf(stderr, "usage: %s --out DIR [--seconds N] [--size WxH] [--other-cameras]\n", argv[0]);
         return 2;
     }
     std::string error;
@@ -30,7 +32,10 @@ int main(int argc, char** argv) {
         std::printf("[%zu/%zu] %s\n", i + 1, n, path.c_str());
         std::fflush(stdout);
     };
-    if (!tarvik::cardgen::writeCard(tarvik::cardgen::demoCardPlan(options), out, &error, progress)) {
+    const auto plan = other ? tarvik::cardgen::otherCameraCardPlan(static_cast<int>(options.seconds), options.width,
+                                                                  options.height)
+                            : tarvik::cardgen::demoCardPlan(options);
+    if (!tarvik::cardgen::writeCard(plan, out, &error, progress)) {
         std::fprintf(stderr, "%s\n", error.c_str());
         return 1;
     }

@@ -60,6 +60,8 @@ bool writeClip(const ClipPlan& clip, const fs::path& out, std::string* log) {
         auto chunks = binaryChunks(driveSeconds(from, n, 20, quantizeKrtBinary), chunkTag(clip), true);
         return makeVideo(clip.video, out, log) && addTextChunksToAvi(out, chunks, clip.video.fps, log);
     }
+    case T::OtherCamera:
+        return writeOtherCameraClip(clip.other, clip.video, from, out, nullptr, log);
     case T::SrtTrack: {
         std::error_code ec;
         fs::create_directories(out.parent_path(), ec);

@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+
 namespace tarvik {
 
 namespace {
@@ -195,11 +196,21 @@ void ClipCatalogue::refreshVideoFileListWithURL(const std::string& dir) {
 void ClipCatalogue::refreshVideoFileList() {
     all_.clear();
     if (!root_.empty()) {
-        scanInto(root_, false, true, all_);
         std::string folder = root_;
         if (folder.back() != '/') folder.push_back('/');
         const std::size_t base = folder.size();
+        bool ownLayout = false;
         for (std::string_view name : kRecordingFolders) {
+            folder.resize(base);
+            folder.append(name);
+            struct stat st;
+            ownLayout = ownLayout || (lstat(folder.c_str(), &st) == 0 && S_ISDIR(st.st_mode));
+        }
+        // A card of other cameras (or any folder the user chose) keeps its
+        // clips in folders of its own naming: all of them are looked through.
+        scanInto(root_, !ownLayout, true, all_);
+        for (std::string_view name : kRecordingFolders) {
+            if (!ownLayout) break;
             folder.resize(base);
             folder.append(name);
             // A recording folder that is a link would lead off the card.

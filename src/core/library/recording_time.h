@@ -1,15 +1,27 @@
 #pragma once
 // When a clip was recorded, read from its file name: cameras name clips after
-// the moment recording began (20261121_083000_F.mp4). Viewers of an incident
-// want that moment in plain figures beside the picture.
+// the moment recording began (20261121_083000_F.mp4, 2026_1121_083000_F.MP4,
+// 20261121083000A.mp4). Viewers of an incident want that moment in plain
+// figures beside the picture.
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace tarvik {
 
-// "2026-11-21 08:30:00" for a name holding 8 date digits, an underscore and 6
-// time digits that make a real date and time; "" otherwise.
+struct RecordingMoment {
+    int year, month, day, hour, minute, second;
+    // Seconds since 1970-01-01 of the moment taken as UTC.
+    std::int64_t secondsSinceEpoch() const;
+};
+
+// The first run of digits in the name shaped as YYYYMMDD_HHMMSS,
+// YYYY_MMDD_HHMMSS or YYYYMMDDHHMMSS that makes a real date and time.
+std::optional<RecordingMoment> recordingMomentFromName(std::string_view fileName);
+
+// "2026-11-21 08:30:00" for such a name; "" otherwise.
 std::string recordingTimeText(std::string_view fileName);
 
 }  // namespace tarvik

@@ -75,6 +75,13 @@ TEST_F(TempCard, ScanTakesRootAndListedFoldersAtAnyDepthOnly) {
     EXPECT_TRUE(ClipCatalogue::getVideoFilesInDirectoryUrl("", true).empty());
 }
 
+TEST_F(TempCard, CardsOfOtherCamerasAreLookedThroughWhole) {
+    // No recording folder of the viewer's own cameras: every folder counts.
+    touch({"DCIM/100MEDIA/GX010001.MP4", "Normal/Front/2026_1121_083000_F.MP4", "top.mov", ".hidden/x.mp4"});
+    cat.refreshVideoFileListWithURL(root);
+    EXPECT_EQ(sorted(names(cat.allVideoFileList())), (Strings{"2026_1121_083000_F.MP4", "GX010001.MP4", "top.mov"}));
+}
+
 TEST_F(TempCard, ClipFilesAreDecidedByExtensionAlone) {
     for (const char* n : {"CLIP.MP4", "clip.Mov", "x.avi", "empty.mp4", "clip.mpg", "clip.mp4.tmp", ".hidden.mp4", "mp4",
                           "clip.mp", "clip.mp4 ", "clip."})

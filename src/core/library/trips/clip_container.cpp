@@ -10,6 +10,8 @@
 
 #include "core/util/regular_file.h"
 #include "core/util/unrecorded_space.h"
+#include "core/telemetry/mp4_boxes.h"
+#include "core/util/bounded_file.h"
 
 namespace tarvik {
 
@@ -179,6 +181,24 @@ const char* containerStateText(ContainerState state) {
     case ContainerState::Unreadable: break;
     }
     return "unreadable";
+}
+
+std::optional<std::int64_t> containerCreationTime(const std::string& path) {
+    constexpr std::uint64_t kFrom1904 = 2082844800;  // seconds from 1904 to 1970
+    BoundedFile file;
+    if (!file.open(path, true)) return std::nullopt;
+    for (const mp4::Box& moov : mp4::topLevel(file)) {
+        mp4::Box mvhd;
+        if (!moov.is("moov") || !mp4::findChild(file, moov, "mvhd", mvhd)) continue;
+        const std::string p = mp4::payload(file, mvhd, 12);
+        const auto* b = reinterpret_cast<const unsigned char*>(p.data());
+        std::uint64_t t = 0;
+        if (p.size() >= 8 && b[0] == 0) t = mp4::be32(b + 4);
+        else if (p.size() >= 12 && b[0] == 1) t = mp4::be64(b + 4);
+        if (t > kFrom1904) return static_cast<std::int64_t>(t - kFrom1904);
+        return std::nullopt;
+    }
+    return std::nullopt;
 }
 
 }  // namespace tarvik

@@ -3,6 +3,8 @@
 // a player can open it at all, and how long it runs. Only box and chunk headers
 // are read, so a card of thousands of clips is looked at in moments.
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tarvik {
@@ -22,6 +24,9 @@ struct ContainerInfo {
 };
 
 ContainerInfo inspectClipContainer(const std::string& path);
+// An MP4/MOV's creation time (mvhd) in seconds since 1970, as the camera's
+// clock wrote it; none when the file has no such time.
+std::optional<std::int64_t> containerCreationTime(const std::string& path);
 // "playable", "zero bytes", "truncated", "no index", "preallocated, never
 // recorded", "unreadable".
 const char* containerStateText(ContainerState state);

@@ -6,49 +6,40 @@
 #include <set>
 
 #include "core/library/clip_catalogue.h"
+#include "core/library/recording_time.h"
+#include "core/library/trips/clip_container.h"
 
 namespace tarvik {
 
 namespace {
 
-bool digits(std::string_view s) {
-    return std::all_of(s.begin(), s.end(), [](char c) { return std::isdigit(static_cast<unsigned char>(c)); });
+// Of a pair: the F. clip, or the A clip of cameras lettering theirs A and B.
+bool isFront(std::string_view name) {
+    if (name.find("F.") != std::string_view::npos) return true;
+    const std::size_t dot = name.rfind('.');
+    return name.find("R.") == std::string_view::npos && dot != std::string_view::npos && dot > 0 && name[dot - 1] == 'A';
 }
 
-int num(std::string_view s) {
-    int v = 0;
-    for (char c : s) v = v * 10 + (c - '0');
-    return v;
+// Cameras that name their two cameras A and B put the letter right after the
+// recording time (20261121083000A.MP4, 2026_1121_083000_B.MP4): only there is
+// it a camera's letter, and the partner then has the same time.
+std::string letterPartner(std::string_view path) {
+    const std::string_view name = ClipCatalogue::fileName(path);
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string_view::npos || dot < 2 || !recordingMomentFromName(name)) return {};
+    const char letter = name[dot - 1], before = name[dot - 2];
+    if ((letter != 'A' && letter != 'B') || !(before == '_' || (before >= '0' && before <= '9'))) return {};
+    std::string s(path);
+    s[path.size() - name.size() + dot - 1] = letter == 'A' ? 'B' : 'A';
+    return s;
 }
-
-// Days since 1970-01-01 of a proleptic Gregorian date.
-std::int64_t daysFromCivil(int y, int m, int d) {
-    y -= m <= 2;
-    const int era = (y >= 0 ? y : y - 399) / 400;
-    const int yoe = y - era * 400;
-    const int doy = (153 * (m + (m > 2 ? -3 : 9)) + 2) / 5 + d - 1;
-    const int doe = yoe * 365 + yoe / 4 - yoe / 100 + doy;
-    return std::int64_t(era) * 146097 + doe - 719468;
-}
-
-bool isFront(std::string_view path) { return path.find("F.") != std::string_view::npos; }
 
 }  // namespace
 
 std::optional<std::int64_t> clipStartFromName(std::string_view name) {
-    for (std::size_t i = 0; i + 15 <= name.size(); ++i) {
-        const std::string_view s = name.substr(i, 15);
-        if (s[8] != '_' || !digits(s.substr(0, 8)) || !digits(s.substr(9, 6))) continue;
-        if (i > 0 && std::isdigit(static_cast<unsigned char>(name[i - 1]))) continue;
-        const int y = num(s.substr(0, 4)), mo = num(s.substr(4, 2)), d = num(s.substr(6, 2));
-        const int h = num(s.substr(9, 2)), mi = num(s.substr(11, 2)), se = num(s.substr(13, 2));
-        static constexpr int kDays[] = {31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-        if (mo < 1 || mo > 12 || d < 1 || d > kDays[mo - 1] || h > 23 || mi > 59 || se > 59) continue;
-        const bool leap = (y % 4 == 0 && y % 100 != 0) || y % 400 == 0;
-        if (mo == 2 && d == 29 && !leap) continue;
-        return daysFromCivil(y, mo, d) * 86400 + h * 3600 + mi * 60 + se;
-    }
-    return std::nullopt;
+    const auto m = recordingMomentFromName(name);
+    if (!m) return std::nullopt;
+    return m->secondsSinceEpoch();
 }
 
 std::string recordingFolderOf(std::string_view root, std::string_view path) {
@@ -69,12 +60,15 @@ std::vector<TripClip> TripBuilder::pairUp(const std::vector<std::string>& clips)
     std::vector<TripClip> out;
     for (const std::string& p : all) {
         if (taken.count(p)) continue;
-        const auto start = clipStartFromName(ClipCatalogue::fileName(p));
+        // Cameras that put no time into their names have the container's.
+        auto start = clipStartFromName(ClipCatalogue::fileName(p));
+        if (!start) start = containerCreationTime(p);
         if (!start) continue;
         TripClip c;
         c.path = p;
         c.start = *start;
-        const std::string partner = ClipCatalogue::partnerPath(p);
+        std::string partner = ClipCatalogue::partnerPath(p);
+        if (partner.empty()) partner = letterPartner(p);
         if (!partner.empty() && partner != p && all.count(partner)) {
             taken.insert(partner);
             c.partner = partner;

@@ -1,9 +1,6 @@
 #include "ui/library/playback/telemetry_loader.h"
 
-#include "core/library/clip_catalogue.h"
-#include "core/media/subtitle_track.h"
-#include "core/telemetry/krt_clip_name.h"
-#include "ui/library/playback/clip_navigation.h"
+#include "core/media/clip_telemetry_reading.h"
 
 namespace tarvik {
 
@@ -17,14 +14,10 @@ TelemetryLoader::~TelemetryLoader() { pool_.waitForDone(); }
 
 std::shared_ptr<LoadedTelemetry> TelemetryLoader::read(const std::string& clip) {
     auto t = std::make_shared<LoadedTelemetry>();
-    if (isMp4ClipPath(clip)) {
-        t->track = std::make_unique<SubtitleData>();
-        SubtitleTrack::load(clip, t->clip, t->track.get());
-    } else if (isKrtClipName(ClipCatalogue::fileName(clip))) {
-        t->clip.loadVideoFileCilpDataFromFilePath_KRT(clip);
-    } else {
-        t->clip.loadVideoFileCilpDataFromFilePath(clip);
-    }
+    t->track = std::make_unique<SubtitleData>();
+    readClipTelemetry(clip, t->clip, t->track.get());
+    // Without cues the dashboard reads the samples, as for an AVI.
+    if (t->track->empty()) t->track.reset();
     return t;
 }
 

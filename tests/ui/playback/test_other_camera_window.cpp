@@ -1,0 +1,133 @@
+// Clips of other camera families in the real main window: the players, the
+// speed gauge, the G texts and graph, and the route on the map page come from
+// each family's own telemetry layout. Leaves a picture of each in the build tree.
+#include <QLabel>
+#include <QTableView>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWebEngineView>
+#include <filesystem>
+
+#include "cardgen/card_plan.h"
+#include "core/library/clip_catalogue.h"
+#include "core/telemetry/orvo_clip_data.h"
+#include "ui/app/catalogue_controller.h"
+#include "ui/app/main_window.h"
+#include "ui/app/main_window_controller.h"
+#include "ui/library/playback/dashboard_widgets.h"
+#include "ui/library/playback/playback_controller.h"
+#include "ui/library/playback/seek_slider_controller.h"
+#include "ui/library/player/orvo_av_view.h"
+#include "ui/telemetry/gravity_graph_view.h"
+#include "ui/telemetry/map_controller.h"
+#include "ui/telemetry/speed_meter_view.h"
+
+using namespace tarvik;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kLoadMs = 30000;
+
+int routePoints(QWebEngineView* view) {
+    int n = -1;
+    view->page()->runJavaScript("JSON.stringify(window.mapState ? mapState() : {})", [&](const QVariant& v) {
+        n = static_cast<int>(QJsonDocument::fromJson(v.toString().toUtf8()).object().value("route").toArray().size());
+    });
+    return QTest::qWaitFor([&] { return n >= 0; }, 5000) ? n : -1;
+}
+
+}  // namespace
+
+class OtherCameraWindowTest : public QObject {
+    Q_OBJECT
+    QTemporaryDir dir_;
+    std::unique_ptr<MainWindowController> window_;
+
+    PlaybackController& playback() { return window_->playback(); }
+    int rowOf(const std::string& name) {
+        const auto& list = window_->catalogue().catalogue().filteredVideoFileList();
+        for (size_t i = 0; i < list.size(); ++i)
+            if (ClipCatalogue::fileName(list[i]) == name) return static_cast<int>(i);
+        return -1;
+    }
+
+private slots:
+    void initTestCase() {
+        QVERIFY(dir_.isValid());
+        const fs::path card = fs::path(dir_.path().toStdString()) / "card";
+        std::string error;
+        QVERIFY2(cardgen::writeCard(cardgen::otherCameraCardPlan(8, 320, 180), card, &error), error.c_str());
+        window_ = std::make_unique<MainWindowController>();
+        window_->showMainWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(window_->mainWindow()));
+        window_->catalogue().chooseFolder(card.string());
+        QCOMPARE(window_->catalogue().catalogue().rowCount(), 10);
+        QTRY_VERIFY_WITH_TIMEOUT(playback().dashboardWidgets().mapController->isPageReady(), 30000);
+        playback().setAlertPresenter([](const QString& m, const QString& i) {
+            QFAIL(qPrintable("alert: " + m + " " + i));
+        });
+    }
+
+    void cleanupTestCase() { window_.reset(); }
+
+    void dashboardShowsEachFamily_data() {
+        QTest::addColumn<QString>("clip");
+        QTest::addColumn<bool>("pair");
+        QTest::addColumn<bool>("hasG");
+        QTest::newRow("freeGPS") << "2026_1121_100000_F.MP4" << true << false;
+        QTest::newRow("free box log") << "20261121_100016_NF.mp4" << true << true;
+        QTest::newRow("GPS box") << "20261121100024A.MP4" << false << false;  // the player pairs F/R only
+        QTest::newRow("GPMF") << "GX011000.MP4" << false << true;
+        QTest::newRow("NMEA track") << "20261121_100040.mp4" << false << false;
+    }
+
+    void dashboardShowsEachFamily() {
+        QFETCH(QString, clip);
+        QFETCH(bool, pair);
+        QFETCH(bool, hasG);
+        const MainWindowViews& v = window_->views();
+        const int row = rowOf(clip.toStdString());
+        QVERIFY(row >= 0);
+        v.fileListTableView->selectRow(row);
+        window_->catalogue().videoFileListDoubleClicked();
+        OrvoAVView* big = playback().bigMovieView();
+        QTRY_COMPARE_WITH_TIMEOUT(big->status(), OrvoAVViewStatusPrepared, kLoadMs);
+        if (pair) QTRY_COMPARE_WITH_TIMEOUT(playback().smallMovieView()->status(), OrvoAVViewStatusPrepared, kLoadMs);
+        // The clip itself plays, whatever played before.
+        QTRY_VERIFY_WITH_TIMEOUT(big->fileName().endsWith(clip), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(playback().clipData().clipDataCount() == 80, 10000);
+        QVERIFY(playback().clipData().gpsDataCount() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(v.playTimeTextField->text().startsWith("00:02"), 10000);
+        playback().pauseVideo();
+
+        // The gauge shows the clip's speed of the moment (the drive stops now and then).
+        const OrvoClipData& data = playback().clipData();
+        const int shown = static_cast<int>(playback().seekSlider().currentSliderValue() * 10);
+        unsigned top = 0;
+        for (int i = 0; i < data.clipDataCount(); ++i) top = std::max(top, data.getGpsSpeed(i));
+        QVERIFY(top > 0);
+        SpeedMeterView* gauge = playback().dashboardWidgets().speedMeterView;
+        bool matches = false;
+        for (int i = std::max(0, shown - 5); i <= shown && !matches; ++i)
+            matches = gauge->speed() == data.getGpsSpeed(i);
+        QVERIFY2(matches, qPrintable(QString::number(gauge->speed())));
+        if (hasG) QVERIFY(v.gzTextField->text() != "0.000");
+        if (hasG) QCOMPARE(playback().dashboardWidgets().gravityGraphView->clipData().clipDataCount(), 80);
+        QWebEngineView* map = playback().dashboardWidgets().mapWebView;
+        QTRY_VERIFY_WITH_TIMEOUT(!map->isHidden(), 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(routePoints(map) > 1, 5000);
+
+        QTest::qWait(500);
+        const QString shot =
+            QString(TARVIK_BINARY_DIR) + "/other_camera_" + QString(QTest::currentDataTag()).replace(' ', '_') + ".png";
+        QVERIFY(window_->mainWindow()->grab().save(shot));
+        qInfo("screenshot: %s", qPrintable(shot));
+    }
+};
+
+QTEST_MAIN(OtherCameraWindowTest)
+#include "test_other_camera_window.moc"
