@@ -222,8 +222,9 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     showRecordingTime(url);
 
     bigVideoFilePath_ = files->front();
-    bigMovieView_->setFilePath(QByteArray::fromStdString(bigVideoFilePath_));
+    // Watching first: a clip opened ahead shows its picture at once.
     failureWatch_->watch();
+    bigMovieView_->setFilePath(QByteArray::fromStdString(bigVideoFilePath_));
     if (files->size() >= 2) {
         smallVideoFilePath_ = (*files)[1];
         smallMovieView_->setFilePath(QByteArray::fromStdString(smallVideoFilePath_));
@@ -239,7 +240,6 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
                                        : QList<OrvoAVView*>{bigMovieView_};
     telemetry_->load(url);
     emit movieViewCoversNeedUpdate();
-
 }
 
 void PlaybackController::clearTelemetry() {

@@ -100,7 +100,7 @@ void OrvoAVView::prepareAsset() {
         return;
     }
     loadWatchdog_->start(kLoadTimeoutMs);
-    if (preloaded) return adoptPreloaded();
+    if (preloaded && adoptPreloaded()) return;
     player_->load(fileName_, localPath());
 }
 
@@ -110,14 +110,17 @@ void OrvoAVView::preload(const QByteArray& localPath) {
     if (spare_->path() != QFile::decodeName(localPath)) spare_->load(QFile::decodeName(localPath), localPath);
 }
 
-void OrvoAVView::adoptPreloaded() {
+bool OrvoAVView::adoptPreloaded() {
     // Its reports went out before anyone listened: they are made here again.
+    // A spare that has no picture to show yet would never report one: the
+    // clip is then opened the plain way.
+    if (!player_->hasVideo() || !player_->textureId()) return false;
     setUpPlaybackOfAsset(player_->hasVideo());
-    if (!player_->hasVideo() || !player_->textureId()) return;
     stopLoadingAnimationAndHandleError(false);
     setPictureVisible(true);
     emit firstFrameShown();
     keepSpareIn(100);
+    return true;
 }
 
 MpvPlayer* OrvoAVView::takePlayer() {

@@ -112,7 +112,7 @@ private:
     void keepSpareIn(int ms);
     void prepareAsset();
     // Takes up a spare player that already opened this view's file.
-    void adoptPreloaded();
+    bool adoptPreloaded();
     void setUpPlaybackOfAsset(bool hasVideo);
     void rebuildObservers();
     void removeObservers();
