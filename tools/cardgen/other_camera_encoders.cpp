@@ -1,5 +1,5 @@
 // The byte layouts of the other families' telemetry, from their public
-// descriptions: GoPro's GPMF specification, ExifTool's QuickTime tag
+// descriptions: GoPro's GPMF format description, ExifTool's QuickTime tag
 // documentation and source (freeGPS, "GPS " records, the free box logs), the
 // 3gf grammar of synalysis/Grammars, and NMEA 0183.
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Layout: GoPro's open GPMF specification (github.com/gopro/gpmf-parser,
+// Layout: GoPro's open GPMF format description (gpmf-parser,
 // README "KLV Design"): 4-byte key, type, structure size, big-endian repeat.
 #include <cmath>
 #include <cstring>

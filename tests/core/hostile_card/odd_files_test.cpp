@@ -12,7 +12,7 @@
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/m420/m420_setting_manager.h"
 #include "core/util/process_runner.h"
-#include "special_file.h"
+#include "odd_file.h"
 
 using namespace tarvik;
 using test::Special;
