@@ -3,10 +3,6 @@
 // stacks the same inputs with the same encoder settings, in processor time
 // (user + system of the child), runs interleaved. Three minutes of drive by
 // default; TARVIK_BENCH_INCIDENT_SECONDS makes it shorter.
-#include <spawn.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -15,10 +11,9 @@
 #include <string>
 #include <vector>
 
+#include "bench_process.h"
 #include "bench_table.h"
 #include "cardgen/card_plan.h"
-
-extern char** environ;
 
 namespace fs = std::filesystem;
 using namespace tarvik;
@@ -28,27 +23,7 @@ namespace {
 constexpr int kRuns = 3;
 
 // Processor seconds of one run with its output thrown away; -1 when it failed.
-double cpuOfRun(const std::vector<std::string>& argv) {
-    std::vector<char*> args;
-    for (const auto& a : argv) args.push_back(const_cast<char*>(a.c_str()));
-    args.push_back(nullptr);
-    posix_spawn_file_actions_t fa;
-    posix_spawn_file_actions_init(&fa);
-    posix_spawn_file_actions_addopen(&fa, 1, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&fa, 2, "/dev/null", O_WRONLY, 0);
-    pid_t pid;
-    double cpu = -1;
-    if (posix_spawnp(&pid, args[0], &fa, nullptr, args.data(), environ) == 0) {
-        int status = 0;
-        struct rusage use {};
-        wait4(pid, &status, 0, &use);
-        if (WIFEXITED(status) && WEXITSTATUS(status) == 0)
-            cpu = double(use.ru_utime.tv_sec + use.ru_stime.tv_sec) +
-                  double(use.ru_utime.tv_usec + use.ru_stime.tv_usec) / 1e6;
-    }
-    posix_spawn_file_actions_destroy(&fa);
-    return cpu;
-}
+double cpuOfRun(const std::vector<std::string>& argv) { return bench::timeRun(argv).cpu; }
 
 }  // namespace
 

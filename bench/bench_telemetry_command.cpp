@@ -1,23 +1,17 @@
 // `tarvik telemetry` as a whole process on a one-minute MP4 with a telemetry
 // subtitle track, against `exiftool -ee` on the same file and against the same
 // command on a one-minute AVI, all in the same run, runs interleaved.
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "bench_process.h"
 #include "bench_table.h"
 #include "cardgen/card_plan.h"
-
-extern char** environ;
 
 namespace fs = std::filesystem;
 using namespace tarvik;
@@ -26,12 +20,10 @@ namespace {
 
 using tarvik::bench::median;
 
-constexpr int kRuns = 7;
+using bench::Timing;
+using bench::timeRun;
 
-struct Timing {
-    double wall = -1;  // seconds
-    double cpu = -1;   // user + system of the child
-};
+constexpr int kRuns = 7;
 
 std::string onPath(const std::string& program) {
     const char* path = std::getenv("PATH");
@@ -46,30 +38,6 @@ std::string onPath(const std::string& program) {
     return {};
 }
 
-// One run, output to /dev/null; a failed run gives wall -1.
-Timing runOnce(const std::vector<std::string>& argv) {
-    std::vector<char*> args;
-    for (const auto& a : argv) args.push_back(const_cast<char*>(a.c_str()));
-    args.push_back(nullptr);
-    posix_spawn_file_actions_t fa;
-    posix_spawn_file_actions_init(&fa);
-    posix_spawn_file_actions_addopen(&fa, 1, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&fa, 2, "/dev/null", O_WRONLY, 0);
-    const auto t0 = std::chrono::steady_clock::now();
-    pid_t pid;
-    Timing t;
-    if (posix_spawn(&pid, args[0], &fa, nullptr, args.data(), environ) == 0) {
-        int status = 0;
-        rusage ru{};
-        wait4(pid, &status, 0, &ru);
-        if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
-            t.wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-            t.cpu = ru.ru_utime.tv_sec + ru.ru_utime.tv_usec / 1e6 + ru.ru_stime.tv_sec + ru.ru_stime.tv_usec / 1e6;
-        }
-    }
-    posix_spawn_file_actions_destroy(&fa);
-    return t;
-}
 
 }  // namespace
 
@@ -96,8 +64,8 @@ int main(int, char** argv) {
 
     std::vector<double> wallMp4, wallAvi, wallExif, cpuMp4, cpuAvi, cpuExif;
     for (int i = 0; i < kRuns; ++i) {
-        const Timing m = runOnce({tarvik, "telemetry", mp4.string()});
-        const Timing a = runOnce({tarvik, "telemetry", avi.string()});
+        const Timing m = timeRun({tarvik, "telemetry", mp4.string()});
+        const Timing a = timeRun({tarvik, "telemetry", avi.string()});
         if (m.wall < 0 || a.wall < 0) {
             std::fprintf(stderr, "tarvik telemetry failed\n");
             return 1;
@@ -105,7 +73,7 @@ int main(int, char** argv) {
         wallMp4.push_back(m.wall), cpuMp4.push_back(m.cpu);
         wallAvi.push_back(a.wall), cpuAvi.push_back(a.cpu);
         if (!exiftool.empty()) {
-            const Timing e = runOnce({exiftool, "-ee", mp4.string()});
+            const Timing e = timeRun({exiftool, "-ee", mp4.string()});
             if (e.wall >= 0) wallExif.push_back(e.wall), cpuExif.push_back(e.cpu);
         }
     }

@@ -2,9 +2,6 @@
 // telemetry of one AVI and one MP4 read in-process, in seconds, and
 // `tarvik trips` over a card of twenty of them against a stat walk of the
 // same card (`find -printf %s`), both as whole processes, runs interleaved.
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -16,11 +13,10 @@
 #include <string>
 #include <vector>
 
+#include "bench_process.h"
 #include "bench_table.h"
 #include "core/library/trips/clip_telemetry_loader.h"
 #include "core/telemetry/orvo_clip_data.h"
-
-extern char** environ;
 
 namespace fs = std::filesystem;
 using namespace tarvik;
@@ -32,26 +28,7 @@ constexpr int kRuns = 15;
 constexpr std::uintmax_t kClipBytes = 5ull << 30;
 
 // Wall seconds of one run with its output thrown away; -1 when it failed.
-double runOnce(const std::vector<std::string>& argv) {
-    std::vector<char*> args;
-    for (const auto& a : argv) args.push_back(const_cast<char*>(a.c_str()));
-    args.push_back(nullptr);
-    posix_spawn_file_actions_t fa;
-    posix_spawn_file_actions_init(&fa);
-    posix_spawn_file_actions_addopen(&fa, 1, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&fa, 2, "/dev/null", O_WRONLY, 0);
-    const auto t0 = std::chrono::steady_clock::now();
-    pid_t pid;
-    double wall = -1;
-    if (posix_spawn(&pid, args[0], &fa, nullptr, args.data(), environ) == 0) {
-        int status = 0;
-        waitpid(pid, &status, 0);
-        if (WIFEXITED(status) && WEXITSTATUS(status) == 0)
-            wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-    }
-    posix_spawn_file_actions_destroy(&fa);
-    return wall;
-}
+double runOnce(const std::vector<std::string>& argv) { return bench::timeRun(argv).wall; }
 
 void sparse(const fs::path& p) {
     fs::create_directories(p.parent_path());

@@ -128,22 +128,12 @@ std::size_t findMagic(const char* d, std::size_t p, std::size_t len) {
     return len;
 }
 
-bool findTop(const std::vector<mp4::Box>& top, const char* type, mp4::Box& out) {
-    for (const mp4::Box& b : top)
-        if (b.is(type)) {
-            out = b;
-            return true;
-        }
-    return false;
-}
-
 }  // namespace
 
 int readFreeGpsIndexed(const BoundedFile& file, OrvoClipData& out) {
     TimedTelemetry timed;
-    const std::vector<mp4::Box> top = mp4::topLevel(file);
     mp4::Box moov, index;
-    if (findTop(top, "moov", moov) && mp4::findChild(file, moov, "gps ", index) && index.size() > 8) {
+    if (mp4::findTopLevel(file, "moov", moov) && mp4::findChild(file, moov, "gps ", index) && index.size() > 8) {
         const std::string head = mp4::payload(file, index, 8 + kMaxBlocks * 8);
         if (head.size() < 8) return timed.finish(out);
         const auto* p = reinterpret_cast<const unsigned char*>(head.data());

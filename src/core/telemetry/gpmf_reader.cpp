@@ -140,9 +140,7 @@ private:
 int readGpmf(const BoundedFile& file, OrvoClipData& out) {
     TimedTelemetry timed;
     mp4::Box moov;
-    for (const mp4::Box& b : mp4::topLevel(file))
-        if (b.is("moov")) moov = b;
-    if (!moov.end) return timed.finish(out);
+    if (!mp4::findTopLevel(file, "moov", moov)) return timed.finish(out);
     std::string buf;
     for (const mp4::Track& t : mp4::tracks(file, moov)) {
         if (!t.formatIs("gpmd")) continue;

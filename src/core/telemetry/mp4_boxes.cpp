@@ -68,6 +68,12 @@ std::vector<Box> topLevel(const BoundedFile& file) {
     return out;
 }
 
+bool findTopLevel(const BoundedFile& file, const char* type, Box& out) {
+    for (const Box& b : topLevel(file))
+        if (b.is(type)) return out = b, true;
+    return false;
+}
+
 bool findChild(const BoundedFile& file, const Box& parent, const char* type, Box& out) {
     for (const Box& b : children(file, parent.payload, parent.end)) {
         if (b.is(type)) {

@@ -29,6 +29,8 @@ std::vector<Box> children(const BoundedFile& file, std::uint64_t from, std::uint
 // The top-level boxes, when the file starts like an MP4/MOV (its first box is
 // one of the types these files begin with); empty otherwise.
 std::vector<Box> topLevel(const BoundedFile& file);
+// The first top-level box of `type` (see topLevel).
+bool findTopLevel(const BoundedFile& file, const char* type, Box& out);
 // The first child of `type`, searched in [from, to).
 bool findChild(const BoundedFile& file, const Box& parent, const char* type, Box& out);
 

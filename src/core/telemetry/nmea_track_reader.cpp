@@ -18,9 +18,7 @@ constexpr std::uint32_t kMaxSample = 4096;  // a sample holds a few sentences
 int readNmeaTrack(const BoundedFile& file, OrvoClipData& out) {
     TimedTelemetry timed;
     mp4::Box moov;
-    for (const mp4::Box& b : mp4::topLevel(file))
-        if (b.is("moov")) moov = b;
-    if (!moov.end) return timed.finish(out);
+    if (!mp4::findTopLevel(file, "moov", moov)) return timed.finish(out);
     std::string buf;
     for (const mp4::Track& t : mp4::tracks(file, moov)) {
         if (!(t.handlerIs("text") || t.handlerIs("sbtl") || t.handlerIs("subt")) ||
