@@ -15,11 +15,11 @@
 
 #include "core/app/viewer_preferences.h"
 #include "core/library/conversion/utils.h"
-#include "ui/app/application_style.h"
-#include "ui/app/card_controller.h"
-#include "ui/app/main_window.h"
-#include "ui/app/main_window_controller.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/shell/application_style.h"
+#include "ui/shell/card_controller.h"
+#include "ui/shell/main_window.h"
+#include "ui/shell/main_window_controller.h"
+#include "ui/base/prefs/qsettings_store.h"
 
 #ifndef TARVIK_VERSION
 #define TARVIK_VERSION "0.0.0"

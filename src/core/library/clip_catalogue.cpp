@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "core/telemetry/mp4_clip_path.h"
 
 namespace tarvik {
 
@@ -269,20 +270,13 @@ std::string ClipCatalogue::takeBigVideoURL(int row) const {
     const std::string& cur = filtered_[static_cast<std::size_t>(row)];
     if (!videoSwitched_) return cur;
 
-    auto isMp4 = [](std::string_view p) {
-        std::string_view n = fileName(p);
-        std::size_t dot = n.rfind('.');
-        if (dot == std::string_view::npos) return false;
-        std::string_view ext = n.substr(dot + 1);
-        return ext.size() == 3 && asciiLower(ext[0]) == 'm' && asciiLower(ext[1]) == 'p' && ext[2] == '4';
-    };
     std::string result = cur;
-    if (!isMp4(cur)) return result;
+    if (!isMp4ClipPath(cur)) return result;
     const std::string partner = partnerPath(cur);
     if (partner.empty()) return result;
-    if (row > 0 && isMp4(filtered_[row - 1]) && partner == filtered_[row - 1]) result = filtered_[row - 1];
+    if (row > 0 && isMp4ClipPath(filtered_[row - 1]) && partner == filtered_[row - 1]) result = filtered_[row - 1];
     // The following entry wins over the preceding one.
-    if (row < rowCount() - 1 && isMp4(filtered_[row + 1]) && partner == filtered_[row + 1]) return filtered_[row + 1];
+    if (row < rowCount() - 1 && isMp4ClipPath(filtered_[row + 1]) && partner == filtered_[row + 1]) return filtered_[row + 1];
     return result;
 }
 

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "ui/app/pane/orvo_view_controller.h"
+#include "ui/base/pane/orvo_view_controller.h"
 
 class QComboBox;
 class QLabel;

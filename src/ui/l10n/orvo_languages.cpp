@@ -7,7 +7,7 @@
 #include <map>
 #include <mutex>
 
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/prefs/qsettings_store.h"
 
 namespace tarvik {
 

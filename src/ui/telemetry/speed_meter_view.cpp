@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/app/prefs/notification_center.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/prefs/notification_center.h"
+#include "ui/base/prefs/qsettings_store.h"
 #include "ui/controls/image_library.h"
 #include "ui/controls/image_names.h"
 

@@ -7,7 +7,7 @@
 #include <deque>
 #include <functional>
 
-#include "ui/app/pane/setting_window.h"
+#include "ui/base/pane/setting_window.h"
 
 namespace tarvik::test {
 

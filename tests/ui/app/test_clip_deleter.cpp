@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "ui/app/catalogue_controller.h"
-#include "ui/app/main_window_controller.h"
+#include "ui/shell/catalogue_controller.h"
+#include "ui/shell/main_window_controller.h"
 
 using namespace tarvik;
 namespace fs = std::filesystem;

@@ -18,13 +18,13 @@
 #include <fstream>
 
 #include "cardgen/card_plan.h"
-#include "ui/app/catalogue_controller.h"
-#include "ui/app/main_window.h"
-#include "ui/app/main_window_controller.h"
-#include "ui/app/main_window_layout.h"
-#include "ui/app/preferences_menu_controller.h"
-#include "ui/app/prefs/notification_center.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/shell/catalogue_controller.h"
+#include "ui/shell/main_window.h"
+#include "ui/shell/main_window_controller.h"
+#include "ui/shell/main_window_layout.h"
+#include "ui/shell/preferences_menu_controller.h"
+#include "ui/base/prefs/notification_center.h"
+#include "ui/base/prefs/qsettings_store.h"
 #include "ui/controls/image_button.h"
 #include "ui/library/playback/save_dialogs.h"
 

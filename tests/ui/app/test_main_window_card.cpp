@@ -12,9 +12,9 @@
 #include "cardgen/card_plan.h"
 #include "core/device/external_memory.h"
 #include "core/settings/m420/m420_model_types.h"
-#include "ui/app/card_controller.h"
-#include "ui/app/main_window.h"
-#include "ui/app/main_window_controller.h"
+#include "ui/shell/card_controller.h"
+#include "ui/shell/main_window.h"
+#include "ui/shell/main_window_controller.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 

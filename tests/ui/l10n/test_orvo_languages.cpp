@@ -4,7 +4,7 @@
 #include <QtTest>
 
 #include "core/l10n/localization_keys.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/prefs/qsettings_store.h"
 #include "ui/l10n/orvo_languages.h"
 
 using tarvik::OrvoLanguages;

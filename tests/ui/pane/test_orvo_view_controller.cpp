@@ -7,9 +7,9 @@
 #include <QScrollArea>
 #include <QTest>
 
-#include "ui/app/pane/orvo_cancel_event_view.h"
-#include "ui/app/pane/orvo_view_controller.h"
-#include "ui/app/prefs/notification_center.h"
+#include "ui/base/pane/orvo_cancel_event_view.h"
+#include "ui/base/pane/orvo_view_controller.h"
+#include "ui/base/prefs/notification_center.h"
 #include "ui/controls/image_button.h"
 
 using namespace tarvik;

@@ -11,10 +11,10 @@
 #include <QTimer>
 
 #include "core/app/preference_store.h"
-#include "ui/app/pane/orvo_cancel_event_view.h"
-#include "ui/app/pane/orvo_view_controller.h"
-#include "ui/app/pane/setting_window.h"
-#include "ui/app/prefs/notification_center.h"
+#include "ui/base/pane/orvo_cancel_event_view.h"
+#include "ui/base/pane/orvo_view_controller.h"
+#include "ui/base/pane/setting_window.h"
+#include "ui/base/prefs/notification_center.h"
 
 using namespace tarvik;
 

@@ -11,9 +11,9 @@
 
 #include "cardgen/card_plan.h"
 #include "core/device/external_memory.h"
-#include "ui/app/main_window_controller.h"
-#include "ui/app/pane/orvo_view_controller.h"
-#include "ui/app/pane/setting_window.h"
+#include "ui/shell/main_window_controller.h"
+#include "ui/base/pane/orvo_view_controller.h"
+#include "ui/base/pane/setting_window.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 

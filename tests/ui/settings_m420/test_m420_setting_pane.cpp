@@ -23,7 +23,7 @@
 #include "cardgen/card_plan.h"
 #include "core/settings/m420/m420_setting_manager.h"
 #include "core/settings/m420/settings_alert_sink.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/prefs/qsettings_store.h"
 #include "ui/settings/m420/m420_control_widget.h"
 #include "ui/settings/m420/m420_setting_view_controller.h"
 #include "ui/settings/m420/memory_partition_graph.h"

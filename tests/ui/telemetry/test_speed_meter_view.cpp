@@ -4,8 +4,8 @@
 #include <QtTest>
 
 #include "core/telemetry/orvo_clip_data.h"
-#include "ui/app/prefs/notification_center.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/prefs/notification_center.h"
+#include "ui/base/prefs/qsettings_store.h"
 #include "ui/controls/image_library.h"
 #include "ui/controls/image_names.h"
 #include "ui/telemetry/gravity_graph_view.h"

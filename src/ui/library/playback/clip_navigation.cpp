@@ -1,8 +1,7 @@
 #include "ui/library/playback/clip_navigation.h"
 
-#include <cctype>
-
 #include "core/library/clip_catalogue.h"
+#include "core/telemetry/mp4_clip_path.h"
 
 namespace tarvik {
 
@@ -21,16 +20,6 @@ std::string replaceAll(std::string s, std::string_view from, std::string_view to
 }
 
 }  // namespace
-
-bool isMp4ClipPath(std::string_view path) {
-    const std::size_t dot = path.rfind('.');
-    if (dot == std::string_view::npos || path.size() - dot != 4) return false;
-    const std::size_t slash = path.rfind('/');
-    if (slash != std::string_view::npos && slash > dot) return false;
-    std::string ext;
-    for (char c : path.substr(dot + 1)) ext.push_back(static_cast<char>(std::tolower(static_cast<unsigned char>(c))));
-    return ext == "mp4";
-}
 
 int nextClipRow(const std::vector<std::string>& list, int selected) {
     if (selected < 0) return -1;

@@ -7,10 +7,9 @@
 #include <string_view>
 #include <vector>
 
-namespace tarvik {
+#include "core/telemetry/mp4_clip_path.h"
 
-// True when the lower-cased extension is "mp4".
-bool isMp4ClipPath(std::string_view path);
+namespace tarvik {
 
 // The row after `selected`, wrapping to 0 and skipping the selected clip's
 // rear partner; -1 when nothing is selected.

@@ -4,6 +4,8 @@
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
+#include "ui/library/playback/dashboard_updater.h"
+#include "ui/library/playback/playback_views.h"
 #include "ui/telemetry/gravity_graph_view.h"
 #include "ui/telemetry/map_controller.h"
 #include "ui/telemetry/speed_meter_view.h"
@@ -40,6 +42,22 @@ void DashboardWidgets::installMap(QWidget* mapCoverView, QObject* owner) {
     mapWebView->hide();
     mapController = new MapController(mapWebView, owner);
     mapController->load();
+}
+
+DashboardTargets DashboardWidgets::targets(const PlaybackViews& v, SeekSliderController* seekSlider) const {
+    DashboardTargets t;
+    t.gxText = v.gxTextField;
+    t.gyText = v.gyTextField;
+    t.gzText = v.gzTextField;
+    t.latText = v.latTextField;
+    t.lngText = v.lngTextField;
+    t.playTimeText = v.playTimeTextField;
+    t.speedMeter = speedMeterView;
+    t.mapCover = v.mapCoverView;
+    t.mapWebView = mapWebView;
+    t.map = mapController;
+    t.seekSlider = seekSlider;
+    return t;
 }
 
 }  // namespace tarvik

@@ -8,6 +8,9 @@ class QWidget;
 
 namespace tarvik {
 
+struct DashboardTargets;
+struct PlaybackViews;
+class SeekSliderController;
 class GravityGraphView;
 class MapController;
 class SpeedMeterView;
@@ -24,6 +27,8 @@ struct DashboardWidgets {
     // position is known; its page starts loading at once. Only where a web
     // engine can run: the offscreen platform gets none and keeps the cover.
     void installMap(QWidget* mapCoverView, QObject* owner);
+    // What the dashboard writes to: these widgets and the window's labels.
+    DashboardTargets targets(const PlaybackViews& views, SeekSliderController* seekSlider) const;
 };
 
 }  // namespace tarvik

@@ -18,8 +18,6 @@
 #include "core/library/recording_time.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
-#include "ui/app/main_window.h"
-#include "ui/app/main_window_views.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/library/playback/after_first_pictures.h"
@@ -34,6 +32,7 @@
 #include "ui/library/playback/fullscreen_controller.h"
 #include "ui/library/playback/next_clip_preloader.h"
 #include "ui/library/playback/picture_drag_pan.h"
+#include "ui/library/playback/playback_views.h"
 #include "ui/library/playback/play_animation.h"
 #include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/playback/telemetry_loader.h"
@@ -74,7 +73,7 @@ OrvoAVView* playerIn(QWidget* host, const char* name) {
 
 }  // namespace
 
-PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalogue& catalogue, QObject* parent)
+PlaybackController::PlaybackController(const PlaybackViews& views, ClipCatalogue& catalogue, QObject* parent)
     : QObject(parent), v_(views), catalogue_(catalogue), clipData_(std::make_unique<OrvoClipData>()) {
     bigMovieView_ = playerIn(v_.bigMovieHost, "bigMoviePlayer");
     smallMovieView_ = playerIn(v_.smallMovieHost, "smallMoviePlayer");
@@ -89,25 +88,14 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
     seek_ = new SeekSliderController(v_.seekTimeSliderView, this);
     volume_ = new VolumeController(v_.volumeSliderView, v_.muteButton, bigMovieView_, this);
 
-    DashboardTargets targets;
-    targets.gxText = v_.gxTextField;
-    targets.gyText = v_.gyTextField;
-    targets.gzText = v_.gzTextField;
-    targets.latText = v_.latTextField;
-    targets.lngText = v_.lngTextField;
-    targets.playTimeText = v_.playTimeTextField;
-    targets.speedMeter = widgets_->speedMeterView;
-    targets.mapCover = v_.mapCoverView;
-    targets.mapWebView = widgets_->mapWebView;
-    targets.map = widgets_->mapController;
-    targets.seekSlider = seek_;
+    const DashboardTargets targets = widgets_->targets(v_, seek_);
     dashboard_ = new DashboardUpdater(targets, *clock_, this);
     dashboard_->setClipData(clipData_.get());
     dashboard_->showMapCover();
 
     // The main window has no pan button of its own; panning stays a state here.
     zoom_ = new ZoomController(v_.bigMovieViewScrollView, v_.bigMovieHost, nullptr, this);
-    fullScreen_ = new FullScreenController(bigMovieView_, smallMovieView_, v_.mainWindow,
+    fullScreen_ = new FullScreenController(bigMovieView_, smallMovieView_, v_.window,
                                            *this, *volume_, this);
     fullScreen_->setMapWebView(targets.mapWebView);
     zoom_->setFullScreenQuery([this] { return fullScreen_->isFullScreenMode(); });
@@ -116,7 +104,7 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
     animation_ = new PlayAnimation(v_.shockCarImageView, v_.earthImageView, this);
 
     ClipSaver::Context saving;
-    saving.window = v_.mainWindow;
+    saving.window = v_.window;
     saving.catalogue = &catalogue_;
     saving.selectedRow = [this] { return actedOnRow(); };
     saving.currentVideoUrl = [this] { return currentVideoUrl_; };
@@ -136,7 +124,7 @@ PlaybackController::PlaybackController(const MainWindowViews& views, ClipCatalog
     alert_ = [this](const QString& message, const QString& informative) {
         // Window-modal and without a nested event loop: the window stays blocked
         // until it is dismissed, and the players' events keep flowing meanwhile.
-        auto* box = new QMessageBox(QMessageBox::Warning, message, message, QMessageBox::Ok, v_.mainWindow);
+        auto* box = new QMessageBox(QMessageBox::Warning, message, message, QMessageBox::Ok, v_.window);
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->setInformativeText(informative);
         box->setWindowModality(Qt::WindowModal);

@@ -19,7 +19,7 @@
 
 namespace tarvik {
 
-struct MainWindowViews;
+struct PlaybackViews;
 class ClipCatalogue;
 class AfterFirstPictures;
 class TelemetryLoader;
@@ -48,7 +48,7 @@ public:
     // The playable files of a clip, large view first; empty or none when unsupported.
     using VideoConverter = std::function<std::optional<std::vector<std::string>>(const std::string& clip)>;
 
-    PlaybackController(const MainWindowViews& views, ClipCatalogue& catalogue, QObject* parent = nullptr);
+    PlaybackController(const PlaybackViews& views, ClipCatalogue& catalogue, QObject* parent = nullptr);
     ~PlaybackController() override;
 
     void setAlertPresenter(AlertPresenter presenter) { alert_ = std::move(presenter); }
@@ -145,7 +145,7 @@ private:
     bool isOpening() const;
     void selectRowAndPlay(int row);
 
-    const MainWindowViews& v_;
+    const PlaybackViews& v_;
     ClipCatalogue& catalogue_;
     OrvoAVView* bigMovieView_;
     OrvoAVView* smallMovieView_;

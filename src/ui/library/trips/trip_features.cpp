@@ -13,7 +13,7 @@
 #include "core/library/clip_catalogue.h"
 #include "core/library/trips/trip_route.h"
 #include "core/library/trips/trip_scanner.h"
-#include "ui/app/prefs/notification_center.h"
+#include "ui/base/prefs/notification_center.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/library/events/event_marker_controller.h"
 #include "ui/library/playback/card_reads.h"

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "core/settings/krt/krt_control_rules.h"
-#include "ui/app/pane/orvo_view_controller.h"
+#include "ui/base/pane/orvo_view_controller.h"
 
 class QComboBox;
 class QDateTimeEdit;

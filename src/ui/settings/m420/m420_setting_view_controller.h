@@ -10,7 +10,7 @@
 
 #include "core/settings/m420/m420_pane_mapping.h"
 #include "core/settings/m420/setting_time_file.h"
-#include "ui/app/pane/orvo_view_controller.h"
+#include "ui/base/pane/orvo_view_controller.h"
 
 class QCheckBox;
 class QDateTimeEdit;

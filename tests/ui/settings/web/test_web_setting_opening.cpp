@@ -8,9 +8,9 @@
 
 #include "cardgen/card_plan.h"
 #include "core/device/external_memory.h"
-#include "ui/app/main_window.h"
+#include "ui/shell/main_window.h"
 #include "ui/controls/image_button.h"
-#include "ui/app/main_window_controller.h"
+#include "ui/shell/main_window_controller.h"
 #include "ui/settings/web/web_setting_window_controller.h"
 
 using namespace tarvik;

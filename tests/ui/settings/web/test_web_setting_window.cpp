@@ -16,7 +16,7 @@
 
 #include "core/l10n/language_code.h"
 #include "core/settings/m420/settings_alert_sink.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/prefs/qsettings_store.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/settings/web/web_setting_window_controller.h"
 

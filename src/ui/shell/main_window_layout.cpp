@@ -1,4 +1,4 @@
-#include "ui/app/main_window_layout.h"
+#include "ui/shell/main_window_layout.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -10,7 +10,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "ui/app/main_window.h"
+#include "ui/shell/main_window.h"
 #include "ui/controls/absolute_click_style.h"
 #include "ui/controls/image_button.h"
 #include "ui/controls/image_library.h"
@@ -287,6 +287,7 @@ void buildDashboard(MainWindowViews& v, QWidget* window) {
 MainWindowViews MainWindowLayout::build(MainWindow* window) {
     MainWindowViews v;
     v.mainWindow = window;
+    v.window = window;
     window->setObjectName("mainWindow");
     window->setMinimumSize(900, 640);
 

@@ -1,4 +1,4 @@
-#include "ui/app/card_controller.h"
+#include "ui/shell/card_controller.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -8,9 +8,9 @@
 #include "core/settings/krt/krt_setting_manager.h"
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/m420/m420_setting_manager.h"
-#include "ui/app/catalogue_controller.h"
-#include "ui/app/main_window.h"
-#include "ui/app/pane/setting_window.h"
+#include "ui/shell/catalogue_controller.h"
+#include "ui/shell/main_window.h"
+#include "ui/base/pane/setting_window.h"
 #include "ui/device/select_device_view_controller.h"
 #include "ui/device/select_flash_memory_view_controller.h"
 #include "ui/settings/m420/m420_setting_view_controller.h"

@@ -1,4 +1,4 @@
-#include "ui/app/main_window_controller.h"
+#include "ui/shell/main_window_controller.h"
 
 #include <QAction>
 #include <QApplication>
@@ -17,16 +17,16 @@
 #include <QTimer>
 
 #include "core/settings/krt/krt_setting_manager.h"
-#include "ui/app/card_controller.h"
-#include "ui/app/catalogue_controller.h"
-#include "ui/app/key_table_router.h"
-#include "ui/app/main_window.h"
-#include "ui/app/main_window_layout.h"
-#include "ui/app/main_window_texts.h"
-#include "ui/app/preferences_menu_controller.h"
-#include "ui/app/prefs/notification_center.h"
-#include "ui/app/settings_alert_box.h"
-#include "ui/app/splash_window.h"
+#include "ui/shell/card_controller.h"
+#include "ui/shell/catalogue_controller.h"
+#include "ui/shell/key_table_router.h"
+#include "ui/shell/main_window.h"
+#include "ui/shell/main_window_layout.h"
+#include "ui/shell/main_window_texts.h"
+#include "ui/shell/preferences_menu_controller.h"
+#include "ui/base/prefs/notification_center.h"
+#include "ui/base/alert/settings_alert_box.h"
+#include "ui/shell/splash_window.h"
 #include "ui/controls/image_button.h"
 #include "ui/controls/image_library.h"
 #include "ui/device/mount_watcher.h"

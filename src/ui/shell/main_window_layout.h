@@ -3,7 +3,7 @@
 // and dashboard are laid out on a design 1024 points wide and kept centred by
 // MainWindowLayout::centreGroups; everything above them stretches.
 
-#include "ui/app/main_window_views.h"
+#include "ui/shell/main_window_views.h"
 
 namespace tarvik {
 

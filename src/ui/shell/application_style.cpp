@@ -1,4 +1,4 @@
-#include "ui/app/application_style.h"
+#include "ui/shell/application_style.h"
 
 #include <QApplication>
 #include <QPalette>

@@ -1,4 +1,4 @@
-#include "ui/app/settings_alert_box.h"
+#include "ui/base/alert/settings_alert_box.h"
 
 #include <QMessageBox>
 #include <QPushButton>

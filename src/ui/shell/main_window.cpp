@@ -1,4 +1,4 @@
-#include "ui/app/main_window.h"
+#include "ui/shell/main_window.h"
 
 #include <QKeyEvent>
 #include <QMetaMethod>

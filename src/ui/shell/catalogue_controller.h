@@ -8,8 +8,8 @@
 #include <string>
 
 #include "core/library/clip_catalogue.h"
-#include "ui/app/clip_deleter.h"
-#include "ui/app/main_window_views.h"
+#include "ui/shell/clip_deleter.h"
+#include "ui/shell/main_window_views.h"
 
 namespace tarvik {
 

@@ -1,10 +1,10 @@
-#include "ui/app/key_table_router.h"
+#include "ui/shell/key_table_router.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
 
-#include "ui/app/main_window.h"
+#include "ui/shell/main_window.h"
 
 namespace tarvik {
 

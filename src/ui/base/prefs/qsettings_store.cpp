@@ -1,4 +1,4 @@
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/prefs/qsettings_store.h"
 
 #include <QSettings>
 #include <QStringList>

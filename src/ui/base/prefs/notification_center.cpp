@@ -1,4 +1,4 @@
-#include "ui/app/prefs/notification_center.h"
+#include "ui/base/prefs/notification_center.h"
 
 namespace tarvik {
 

@@ -1,4 +1,4 @@
-#include "ui/app/clip_list_model.h"
+#include "ui/shell/clip_list_model.h"
 
 #include <QApplication>
 #include <QFont>

@@ -1,4 +1,4 @@
-#include "ui/app/preferences_menu_controller.h"
+#include "ui/shell/preferences_menu_controller.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -6,8 +6,8 @@
 #include <QMenuBar>
 
 #include "core/app/viewer_preferences.h"
-#include "ui/app/prefs/notification_center.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/prefs/notification_center.h"
+#include "ui/base/prefs/qsettings_store.h"
 #include "ui/l10n/orvo_languages.h"
 
 namespace tarvik {

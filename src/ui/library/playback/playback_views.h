@@ -1,12 +1,9 @@
 #pragma once
-// Every view of the main window, named as the controller knows them. Built
-// once by MainWindowLayout; the controller and its helpers only point at them.
+// The views playback drives, and nothing else of the window: the two player
+// hosts, the tool bar, the seek slider and the dashboard. The window's layout
+// builds them; playback only points at them.
 
-class QAbstractButton;
 class QLabel;
-class QMenu;
-class QMenuBar;
-class QAction;
 class QScrollArea;
 class QSlider;
 class QTableView;
@@ -15,45 +12,19 @@ class QWidget;
 namespace tarvik {
 
 class ImageButton;
-class MainWindow;
 
-struct MainWindowViews {
-    MainWindow* mainWindow = nullptr;
-
-    // Title strip and menus.
-    QMenuBar* mainMenu = nullptr;
-    QMenu* appMenu = nullptr;
-    QAction* quitMenuItem = nullptr;
-    QLabel* modelTextField = nullptr;
-    QLabel* mainVersionLabel = nullptr;
-    ImageButton* settingsButton = nullptr;
-    ImageButton* goHomepageButton = nullptr;
-    ImageButton* appMinimizeButton = nullptr;
-    ImageButton* appExitButton = nullptr;
-
-    // Clip list.
-    QWidget* fileListControlView_OEM = nullptr;
-    QLabel* selectedDirTextField_OEM = nullptr;
+struct PlaybackViews {
+    // Parent of playback's dialogs and alerts.
+    QWidget* window = nullptr;
+    // Playback reads which clip is selected and moves the selection with it.
     QTableView* fileListTableView = nullptr;
-    ImageButton* fileListAllButton_OEM = nullptr;
-    ImageButton* fileListAlwaysButton_OEM = nullptr;
-    ImageButton* fileListMotionButton_OEM = nullptr;
-    ImageButton* fileListEventButton_OEM = nullptr;
-    ImageButton* fileListManualButton_OEM = nullptr;
-    ImageButton* selectFolderButton = nullptr;
-    ImageButton* fileListRemoveButton_OEM = nullptr;
-    ImageButton* saveFileButton = nullptr;
 
     // Players.
     QScrollArea* bigMovieViewScrollView = nullptr;
     QWidget* bigMovieHost = nullptr;    // where the large player goes
     QWidget* smallMovieHost = nullptr;  // where the small player goes
-    QLabel* bigMovieCoverImageView = nullptr;
-    QLabel* smallMovieCoverImageView = nullptr;
 
     // Tool bar.
-    QWidget* toolbarBg3 = nullptr;
-    QWidget* toolbarButtons = nullptr;
     QSlider* seekTimeSliderView = nullptr;
     QLabel* playTimeTextField = nullptr;
     ImageButton* playPrevFileButton = nullptr;
@@ -64,6 +35,7 @@ struct MainWindowViews {
     ImageButton* playNextFileButton = nullptr;
     ImageButton* snapshotButton = nullptr;
     ImageButton* printButton = nullptr;
+    ImageButton* saveFileButton = nullptr;
     ImageButton* videoScaleUpButton = nullptr;
     ImageButton* videoScaleDownButton = nullptr;
     ImageButton* resetVideoScaleButton = nullptr;
@@ -74,8 +46,6 @@ struct MainWindowViews {
     QSlider* volumeSliderView = nullptr;
 
     // Dashboard.
-    QWidget* dashBg3 = nullptr;
-    QWidget* dashboardCtrls = nullptr;
     QWidget* gravityGraphHost = nullptr;
     QWidget* speedMeterHost = nullptr;
     QWidget* mapCoverView = nullptr;

@@ -1,9 +1,9 @@
-#include "ui/app/pane/orvo_cancel_event_view.h"
+#include "ui/base/pane/orvo_cancel_event_view.h"
 
 #include <QDateTime>
 #include <QKeyEvent>
 
-#include "ui/app/pane/orvo_view_controller.h"
+#include "ui/base/pane/orvo_view_controller.h"
 
 namespace tarvik {
 

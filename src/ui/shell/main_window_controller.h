@@ -7,7 +7,7 @@
 #include <QPointer>
 #include <memory>
 
-#include "ui/app/main_window_views.h"
+#include "ui/shell/main_window_views.h"
 
 namespace tarvik {
 

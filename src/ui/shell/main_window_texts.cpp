@@ -1,8 +1,8 @@
-#include "ui/app/main_window_texts.h"
+#include "ui/shell/main_window_texts.h"
 
 #include <QSlider>
 
-#include "ui/app/main_window_views.h"
+#include "ui/shell/main_window_views.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/library/playback/fullscreen_control_bar.h"

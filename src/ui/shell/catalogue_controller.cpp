@@ -1,4 +1,4 @@
-#include "ui/app/catalogue_controller.h"
+#include "ui/shell/catalogue_controller.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -7,8 +7,8 @@
 #include <QShortcut>
 #include <QTableView>
 
-#include "ui/app/clip_list_model.h"
-#include "ui/app/main_window.h"
+#include "ui/shell/clip_list_model.h"
+#include "ui/shell/main_window.h"
 #include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 

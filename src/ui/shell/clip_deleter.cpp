@@ -1,4 +1,4 @@
-#include "ui/app/clip_deleter.h"
+#include "ui/shell/clip_deleter.h"
 
 #include <QFile>
 #include <QFileInfo>

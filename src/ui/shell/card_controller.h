@@ -5,7 +5,7 @@
 #include <QObject>
 #include <string>
 
-#include "ui/app/main_window_views.h"
+#include "ui/shell/main_window_views.h"
 
 namespace tarvik {
 

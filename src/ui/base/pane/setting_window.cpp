@@ -1,4 +1,4 @@
-#include "ui/app/pane/setting_window.h"
+#include "ui/base/pane/setting_window.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -9,9 +9,9 @@
 #include <cmath>
 
 #include "core/app/viewer_preferences.h"
-#include "ui/app/pane/orvo_view_controller.h"
-#include "ui/app/prefs/notification_center.h"
-#include "ui/app/prefs/qsettings_store.h"
+#include "ui/base/pane/orvo_view_controller.h"
+#include "ui/base/prefs/notification_center.h"
+#include "ui/base/prefs/qsettings_store.h"
 
 namespace tarvik {
 

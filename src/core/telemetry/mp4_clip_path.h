@@ -1,0 +1,13 @@
+#pragma once
+// Whether a path names an MP4 clip (".mp4" in any case, on the file's own
+// name): front and rear MP4 files pair up, and their telemetry is the MP4
+// family's. One rule for the player, the trips and the command, beside the
+// KRT family's name rule.
+
+#include <string_view>
+
+namespace tarvik {
+
+bool isMp4ClipPath(std::string_view path);
+
+}  // namespace tarvik
