@@ -9,6 +9,8 @@
 #include "core/settings/krt/krt_setting_manager.h"
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/m420/m420_setting_manager.h"
+#include <nlohmann/json.hpp>
+
 #include "core/settings/profile/json_value.h"
 #include "core/util/atomic_file.h"
 
@@ -62,18 +64,18 @@ int cardCommand(const CardOptions& o) {
 
     const std::string name = type == -1 ? "" : m.modelName();
     if (json) {
-        std::printf("{\n  \"path\": %s,\n  \"model_type\": %lld,\n  \"model_name\": %s,\n  \"firmware_version\": %s,\n"
-                    "  \"firmware_number\": %d,\n  \"region\": %lld,\n  \"languages\": [",
-                    jsonQuote(path).c_str(), static_cast<long long>(type), jsonQuote(name).c_str(),
-                    jsonQuote(m.version()).c_str(), m.firmwareVersionInt(), static_cast<long long>(m.localID()));
-        for (std::size_t i = 0; i < m.languages().size(); ++i)
-            std::printf("%s{\"index\": %d, \"code\": %s}", i ? ", " : "", m.languages()[i].first,
-                        jsonQuote(m.languages()[i].second).c_str());
-        std::printf("],\n  \"fields\": {");
-        for (std::size_t i = 0; i < fields.size(); ++i)
-            std::printf("%s\n    %s: %s", i ? "," : "", jsonQuote(fields[i].first).c_str(),
-                        numeric[i] ? fields[i].second.c_str() : jsonQuote(fields[i].second).c_str());
-        std::printf("%s}\n}\n", fields.empty() ? "" : "\n  ");
+        nlohmann::ordered_json doc;
+        doc["path"] = path;
+        doc["model_type"] = type;
+        doc["model_name"] = name;
+        doc["firmware_version"] = m.version();
+        doc["firmware_number"] = m.firmwareVersionInt();
+        doc["region"] = m.localID();
+        auto& languages = doc["languages"] = nlohmann::ordered_json::array();
+        for (const auto& [index, code] : m.languages()) languages.push_back({{"index", index}, {"code", code}});
+        auto& out = doc["fields"] = nlohmann::ordered_json::object();
+        for (std::size_t i = 0; i < fields.size(); ++i) out[fields[i].first] = jsonSettingValue(fields[i].second, numeric[i]);
+        std::fputs(jsonDocument(doc).c_str(), stdout);
     } else {
         std::printf("path=%s\nmodel_type=%lld\nmodel_name=%s\nfirmware_version=%s\nfirmware_number=%d\nregion=%lld\n",
                     path.c_str(), static_cast<long long>(type), type == -1 ? "unknown" : name.c_str(),

@@ -4,6 +4,8 @@
 #include <string>
 
 #include "cli/commands.h"
+#include <nlohmann/json.hpp>
+
 #include "core/settings/profile/json_value.h"
 #include "core/library/check/card_report.h"
 
@@ -29,22 +31,23 @@ int checkCommand(const CardFolderOptions& o) {
     const CardReport r = checkCard(card);
     const SettingsState& s = r.settings;
     if (json) {
-        std::printf("{\n  \"path\": %s,\n  \"clips\": %d,\n  \"trips\": %d,\n  \"needs_attention\": %s,\n"
-                    "  \"free_bytes\": %llu,\n  \"total_bytes\": %llu,\n"
-                    "  \"settings\": {\"present\": %s, \"readable\": %s, \"model_type\": %lld, \"model_name\": %s, "
-                    "\"length\": %lld, \"expected_length\": %lld},\n  \"findings\": [",
-                    jsonQuote(r.root).c_str(), r.clipCount, r.tripCount, r.needsAttention() ? "true" : "false",
-                    static_cast<unsigned long long>(r.freeBytes), static_cast<unsigned long long>(r.totalBytes),
-                    s.present ? "true" : "false", s.readable ? "true" : "false", static_cast<long long>(s.modelType),
-                    jsonQuote(s.modelName).c_str(), static_cast<long long>(s.length),
-                    static_cast<long long>(s.expectedLength));
-        for (std::size_t i = 0; i < r.findings.size(); ++i) {
-            const CardFinding& f = r.findings[i];
-            std::printf("%s\n    {\"severity\": \"%s\", \"kind\": %s, \"path\": %s, \"detail\": %s}", i ? "," : "",
-                        f.severity == FindingSeverity::Attention ? "attention" : "note", jsonQuote(f.kind).c_str(),
-                        jsonQuote(f.path).c_str(), jsonQuote(f.detail).c_str());
-        }
-        std::printf("%s]\n}\n", r.findings.empty() ? "" : "\n  ");
+        nlohmann::ordered_json doc;
+        doc["path"] = r.root;
+        doc["clips"] = r.clipCount;
+        doc["trips"] = r.tripCount;
+        doc["needs_attention"] = r.needsAttention();
+        doc["free_bytes"] = r.freeBytes;
+        doc["total_bytes"] = r.totalBytes;
+        doc["settings"] = {{"present", s.present},     {"readable", s.readable},
+                           {"model_type", s.modelType}, {"model_name", s.modelName},
+                           {"length", s.length},       {"expected_length", s.expectedLength}};
+        auto& findings = doc["findings"] = nlohmann::ordered_json::array();
+        for (const CardFinding& f : r.findings)
+            findings.push_back({{"severity", f.severity == FindingSeverity::Attention ? "attention" : "note"},
+                                {"kind", f.kind},
+                                {"path", f.path},
+                                {"detail", f.detail}});
+        std::fputs(jsonDocument(doc).c_str(), stdout);
     } else {
         std::printf("%s: %s in %s, %.1f of %.1f GiB free\n", r.root.c_str(), counted(r.clipCount, "clip").c_str(),
                     counted(r.tripCount, "trip").c_str(), double(r.freeBytes) / (1 << 30),

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "cli/commands.h"
+#include <nlohmann/json.hpp>
+
 #include "core/settings/profile/card_settings.h"
 #include "core/settings/profile/json_value.h"
 #include "core/settings/profile/settings_edit.h"
@@ -34,18 +36,17 @@ void show(const CardSettings& c, bool json) {
         for (const auto& f : c.fields) std::printf("%s=%s\n", f.name.c_str(), f.value.c_str());
         return;
     }
-    std::printf("{\n  \"path\": %s,\n  \"model\": %s,\n  \"model_type\": %lld,\n  \"firmware_version\": %s,\n"
-                "  \"region\": %lld,\n  \"languages\": [",
-                jsonQuote(c.root).c_str(), jsonQuote(c.modelName).c_str(), static_cast<long long>(c.modelType),
-                jsonQuote(c.firmware).c_str(), static_cast<long long>(c.region));
-    for (std::size_t i = 0; i < c.languages.size(); ++i)
-        std::printf("%s{\"index\": %d, \"code\": %s}", i ? ", " : "", c.languages[i].first,
-                    jsonQuote(c.languages[i].second).c_str());
-    std::printf("],\n  \"settings\": {");
-    for (std::size_t i = 0; i < c.fields.size(); ++i)
-        std::printf("%s\n    %s: %s", i ? "," : "", jsonQuote(c.fields[i].name).c_str(),
-                    c.fields[i].numeric ? c.fields[i].value.c_str() : jsonQuote(c.fields[i].value).c_str());
-    std::printf("%s}\n}\n", c.fields.empty() ? "" : "\n  ");
+    nlohmann::ordered_json doc;
+    doc["path"] = c.root;
+    doc["model"] = c.modelName;
+    doc["model_type"] = c.modelType;
+    doc["firmware_version"] = c.firmware;
+    doc["region"] = c.region;
+    auto& languages = doc["languages"] = nlohmann::ordered_json::array();
+    for (const auto& [index, code] : c.languages) languages.push_back({{"index", index}, {"code", code}});
+    auto& settings = doc["settings"] = nlohmann::ordered_json::object();
+    for (const auto& f : c.fields) settings[f.name] = jsonSettingValue(f.value, f.numeric);
+    std::fputs(jsonDocument(doc).c_str(), stdout);
 }
 
 // Plans and (unless dry) writes; the one line of result is the caller's.

@@ -1,9 +1,12 @@
 // tarvik trips CARD [--json]: the drives on a card, each a run of clips
 // recorded one after another.
+#include <cmath>
 #include <cstdio>
 #include <string>
 
 #include "cli/commands.h"
+#include <nlohmann/json.hpp>
+
 #include "core/settings/profile/json_value.h"
 #include "core/library/trips/trip_scanner.h"
 
@@ -14,19 +17,22 @@ int tripsCommand(const CardFolderOptions& o) {
     const std::string& card = o.card;
     const bool json = o.json;
     const std::vector<Trip> trips = scanCardTrips(card, true);
-    if (json) std::printf("[");
+    nlohmann::ordered_json list = nlohmann::ordered_json::array();
     for (std::size_t i = 0; i < trips.size(); ++i) {
         const Trip& t = trips[i];
         if (json) {
-            std::printf("%s\n  {\"folder\": %s, \"start\": %s, \"end\": %s, \"duration_seconds\": %.0f, "
-                        "\"distance_metres\": %.0f, \"top_speed_kmh\": %u, \"has_telemetry\": %s, \"clips\": [",
-                        i ? "," : "", jsonQuote(t.folder).c_str(), jsonQuote(tripTimeText(t.start)).c_str(),
-                        jsonQuote(tripTimeText(t.end)).c_str(), t.seconds(), t.distanceMetres, t.topSpeedKmh,
-                        t.hasTelemetry ? "true" : "false");
-            for (std::size_t c = 0; c < t.clips.size(); ++c)
-                std::printf("%s{\"path\": %s, \"partner\": %s}", c ? ", " : "", jsonQuote(t.clips[c].path).c_str(),
-                            t.clips[c].partner.empty() ? "null" : jsonQuote(t.clips[c].partner).c_str());
-            std::printf("]}");
+            nlohmann::ordered_json clips = nlohmann::ordered_json::array();
+            for (const auto& c : t.clips)
+                clips.push_back({{"path", c.path},
+                                 {"partner", c.partner.empty() ? nlohmann::ordered_json() : nlohmann::ordered_json(c.partner)}});
+            list.push_back({{"folder", t.folder},
+                            {"start", tripTimeText(t.start)},
+                            {"end", tripTimeText(t.end)},
+                            {"duration_seconds", std::llround(t.seconds())},
+                            {"distance_metres", std::llround(t.distanceMetres)},
+                            {"top_speed_kmh", t.topSpeedKmh},
+                            {"has_telemetry", t.hasTelemetry},
+                            {"clips", std::move(clips)}});
         } else {
             const long s = static_cast<long>(t.seconds());
             std::printf("%s  %s  %ld:%02ld  %.2f km  %u km/h  %zu clips  %s\n", tripTimeText(t.start).c_str(),
@@ -34,7 +40,7 @@ int tripsCommand(const CardFolderOptions& o) {
                         t.clips.size(), t.folder.empty() ? "." : t.folder.c_str());
         }
     }
-    if (json) std::printf("%s]\n", trips.empty() ? "" : "\n");
+    if (json) std::fputs(jsonDocument(list).c_str(), stdout);
     return 0;
 }
 

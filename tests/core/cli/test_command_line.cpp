@@ -3,8 +3,12 @@
 // the sub-command concerned, for every sub-command.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
+
+#include <nlohmann/json.hpp>
 
 #include "core/util/process_runner.h"
 
@@ -69,4 +73,20 @@ TEST(CommandLine, UsageErrorsNameTheirSubCommandOnStandardError) {
             EXPECT_EQ(err.output.find("Subcommands:\n  telemetry"), std::string::npos) << c.args;
     }
     EXPECT_NE(stream("err", "check /no/such/card").output.find("/no/such/card"), std::string::npos);
+}
+
+// Every `--json` output is one document a JSON reader accepts, also where a
+// card's file names are not UTF-8 (a camera writes what bytes it likes).
+TEST(CommandLine, JsonOutputsParseOnACardWithForeignNames) {
+    const std::filesystem::path card = std::filesystem::path(testing::TempDir()) / "json-card-\xff\xfe";
+    std::filesystem::remove_all(card);
+    std::filesystem::create_directories(card / "cont_rec");
+    { std::ofstream(card / "cont_rec" / "20261121_080000\xe9.avi") << "not a clip"; }
+    for (const char* command : {"check", "trips", "card"}) {
+        const ProcessResult r = stream("out", std::string(command) + " --json '" + card.string() + "'");
+        SCOPED_TRACE(command);
+        const auto doc = nlohmann::json::parse(r.output, nullptr, false);
+        EXPECT_FALSE(doc.is_discarded()) << r.output;
+    }
+    std::filesystem::remove_all(card);
 }

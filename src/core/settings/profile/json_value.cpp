@@ -1,6 +1,8 @@
 #include "core/settings/profile/json_value.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <set>
 #include <string_view>
@@ -145,20 +147,21 @@ std::optional<JsonValue> parseJson(const std::string& text, std::string* error) 
 }
 
 std::string jsonQuote(const std::string& s) {
-    std::string out = "\"";
-    for (unsigned char c : s) {
-        if (c == '"' || c == '\\') {
-            out += '\\';
-            out += static_cast<char>(c);
-        } else if (c < 0x20) {
-            char buf[8];
-            std::snprintf(buf, sizeof buf, "\\u%04x", c);
-            out += buf;
-        } else {
-            out += static_cast<char>(c);
-        }
+    return Json(s).dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+std::string jsonDocument(const nlohmann::ordered_json& doc) {
+    return doc.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+}
+
+nlohmann::ordered_json jsonSettingValue(const std::string& text, bool numeric) {
+    if (numeric && !text.empty()) {
+        char* end = nullptr;
+        errno = 0;
+        const long long n = std::strtoll(text.c_str(), &end, 10);
+        if (errno == 0 && end && *end == '\0') return n;
     }
-    return out + "\"";
+    return text;
 }
 
 }  // namespace tarvik

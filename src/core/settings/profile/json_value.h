@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+#include <nlohmann/json_fwd.hpp>
+
 namespace tarvik {
 
 struct JsonMember;
@@ -38,5 +40,13 @@ std::optional<JsonValue> parseJson(const std::string& text, std::string* error);
 
 // A JSON string literal for s.
 std::string jsonQuote(const std::string& s);
+
+// A document as the profile and the command write it: indented by two, one
+// line at the end. Names and paths come from the card, and bytes that are not
+// UTF-8 become U+FFFD instead of making the document invalid.
+std::string jsonDocument(const nlohmann::ordered_json& doc);
+
+// A setting's value text: a number where the field holds one, else a string.
+nlohmann::ordered_json jsonSettingValue(const std::string& text, bool numeric);
 
 }  // namespace tarvik

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/profile/json_value.h"
@@ -27,17 +28,15 @@ std::optional<SettingsProfile> refuse(std::string* error, std::string why) {
 }  // namespace
 
 std::string exportSettingsProfile(const CardSettings& card) {
-    std::string out = "{\n  \"" + std::string(kFormatKey) + "\": " + std::to_string(kFormatVersion) +
-                      ",\n  \"family\": \"" + familyName(card.family) + "\",\n  \"model_type\": " +
-                      std::to_string(card.modelType) + ",\n  \"model\": " + jsonQuote(card.modelName) +
-                      ",\n  \"settings\": {";
-    bool first = true;
-    for (const auto& f : card.fields) {
-        if (f.identity) continue;
-        out += (first ? "\n    " : ",\n    ") + jsonQuote(f.name) + ": " + (f.numeric ? f.value : jsonQuote(f.value));
-        first = false;
-    }
-    return out + (first ? "}\n}\n" : "\n  }\n}\n");
+    nlohmann::ordered_json doc;
+    doc[kFormatKey] = kFormatVersion;
+    doc["family"] = familyName(card.family);
+    doc["model_type"] = card.modelType;
+    doc["model"] = card.modelName;
+    auto& settings = doc["settings"] = nlohmann::ordered_json::object();
+    for (const auto& f : card.fields)
+        if (!f.identity) settings[f.name] = jsonSettingValue(f.value, f.numeric);
+    return jsonDocument(doc);
 }
 
 std::optional<SettingsProfile> parseSettingsProfile(const std::string& json, std::string* error) {
