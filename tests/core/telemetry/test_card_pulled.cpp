@@ -5,7 +5,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <cstdio>
 #include <functional>
 #include <random>
 #include <set>
@@ -13,6 +12,7 @@
 #include <vector>
 #include <unistd.h>
 
+#include "cardgen/telemetry_encoders.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "core/telemetry/text_stream.h"
@@ -56,19 +56,8 @@ std::string tailClip() {
     return c;
 }
 
-std::string srtTrack(int seconds) {
-    std::string t;
-    char start[64];
-    for (int i = 0; i < seconds * 10; ++i) {
-        std::snprintf(start, sizeof start, "%d\n00:%02d:%02d,%03d --> 00:59:59,000\n", i + 1, i / 600, i / 10 % 60,
-                      i % 10 * 100);
-        t += start;
-        t += "gsensori,1,128," + std::to_string(i % 100) + ",0,128";
-        if (i % 10 == 9) t += ";GPRMC,083000,A,4807.038,N,01131.000,E,5.4,,";
-        t += "\n\n";
-    }
-    return t;
-}
+// Ten cues a second of the generated drive, a position with every tenth.
+std::string srtTrack(int seconds) { return cardgen::srtTrack(cardgen::driveSeconds(0, seconds, 10, cardgen::quantizeText)); }
 
 struct Case {
     const char* name;
