@@ -27,27 +27,21 @@ namespace {
 
 const std::string kFiller(48 << 10, '\x5a');
 
-std::string aviClip(bool krt, bool indexed = false) {
+// Eighty seconds of the generated drive in a chunk layout, a picture after every chunk.
+std::string chunkClip(const std::vector<cardgen::TextChunk>& chunks, std::size_t frame, bool indexed = false) {
     Avi avi;
-    for (int s = 0; s < 80; ++s) {
-        for (int r = 0; r < 10; ++r) {
-            std::string m = "M";
-            m += static_cast<char>(120 + r), m += static_cast<char>(128), m += static_cast<char>(130);
-            m += krt ? std::string("\x01\x01\x01\x00", 4) : std::string(4, '\0');
-            avi.chunk("02tx", m).chunk("00dc", kFiller.substr(0, 4000));
-        }
-        avi.nmea("$GPRMC,083000,A,3733.67,N,12658.98,E,10.0,,");
-    }
+    for (const auto& c : chunks) avi.chunk(c.tag, c.payload).chunk("00dc", kFiller.substr(0, frame));
     return indexed ? avi.indexed() : avi.bytes;
 }
 
+std::string aviClip(bool krt, bool indexed = false) {
+    const auto drive = cardgen::driveSeconds(0, 80, 10, krt ? cardgen::quantizeKrtBinary : cardgen::quantizeGeneralBinary);
+    return chunkClip(cardgen::binaryChunks(drive, "02tx", krt), 4000, indexed);
+}
+
 std::string textRecordClip() {
-    Avi avi;
-    for (int s = 0; s < 80; ++s) {
-        for (int r = 0; r < 10; ++r) avi.chunk("02tx", "gsensor,1," + std::to_string(r) + ",3" + '\0').chunk("00dc", kFiller);
-        avi.chunk("03tx", std::string("GPRMC,083000,A,3733.6700,N,12658.9800,E,10.0,90,211126") + '\0');
-    }
-    return avi.bytes;
+    return chunkClip(cardgen::textRecordChunks(cardgen::driveSeconds(0, 80, 10, cardgen::quantizeText), "02tx", false),
+                     kFiller.size());
 }
 
 std::string tailClip() {
