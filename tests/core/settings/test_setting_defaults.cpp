@@ -20,6 +20,8 @@ TEST(SettingDefaults, EachLoaderClaimsItsOwnRecordLength) {
     }
 }
 
+// What differs by model and region, and the oddities a camera expects kept;
+// the values themselves are the factory tables'.
 TEST(SettingDefaults, ModelSpecificValuesAndOddities) {
     TempCard card;
     M420SettingManager k;
@@ -28,8 +30,6 @@ TEST(SettingDefaults, ModelSpecificValuesAndOddities) {
     k.loadData();  // no setup.cfg: built-in defaults, nothing written
     EXPECT_FALSE(fs::exists(card.file("SETTING/setup.cfg")));
     EXPECT_EQ(k.tz_key(), "Parcific Standard Time");
-    EXPECT_EQ(k.acceleration_sensor(), 7);
-    EXPECT_EQ(k.rear_resolution(), 0);
     ASSERT_TRUE(k.saveData());
     const std::string b = card.read("SETTING/setup.cfg");
     ASSERT_EQ(b.size(), 432u);
@@ -39,12 +39,7 @@ TEST(SettingDefaults, ModelSpecificValuesAndOddities) {
     M420SettingManager q;
     q.setModelType(3);
     q.loadDefaultValue();
-    EXPECT_EQ(q.serial_number(), "Q810");
-    EXPECT_EQ(q.setting_path(), "SETTING\\Q810_Setting.exe");
     EXPECT_EQ(q.tz_key(), "Pacific Standard Time");
-    EXPECT_EQ(q.gmt_offset(), -480);
-    EXPECT_EQ(q.lcd_off_timer(), 30000);
-    EXPECT_EQ(q.local_id(), 0);
     EXPECT_EQ(q.ldws_offset_bottom(), 218);
 
     M420SettingManager uk;
@@ -52,20 +47,13 @@ TEST(SettingDefaults, ModelSpecificValuesAndOddities) {
     uk.setLocalID(3);
     uk.loadDefaultValue();
     EXPECT_EQ(uk.tz_key(), "GMT Standard Time");
-    EXPECT_EQ(uk.measurement_unit(), 1);
     EXPECT_EQ(uk.local_id(), 3);
     EXPECT_EQ(uk.gmt_offset(), 0);
-    EXPECT_EQ(uk.daylight_offset(), 0);
 
     M420SettingManager m640;
     m640.setModelType(5);
     m640.setIot_onoff(9);
     m640.loadDefaultValue();
-    EXPECT_EQ(m640.driving_guide_version(), 218303744);
-    EXPECT_EQ(m640.set_resolution(), 0);
-    EXPECT_EQ(m640.ldws_onoff(), 1);
-    EXPECT_EQ(m640.ldws_depart_speed(), 2);
-    EXPECT_EQ(m640.rear_quality(), 1);
     EXPECT_EQ(m640.iot_onoff(), 9);  // not one of its fields: kept
 
     // A K310 loader leaves the Q810-only fields alone.

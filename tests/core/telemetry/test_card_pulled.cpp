@@ -5,7 +5,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <cstdio>
 #include <functional>
 #include <random>
 #include <set>
@@ -13,6 +12,7 @@
 #include <vector>
 #include <unistd.h>
 
+#include "cardgen/telemetry_encoders.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "core/telemetry/text_stream.h"
@@ -27,27 +27,21 @@ namespace {
 
 const std::string kFiller(48 << 10, '\x5a');
 
-std::string aviClip(bool krt, bool indexed = false) {
+// Eighty seconds of the generated drive in a chunk layout, a picture after every chunk.
+std::string chunkClip(const std::vector<cardgen::TextChunk>& chunks, std::size_t frame, bool indexed = false) {
     Avi avi;
-    for (int s = 0; s < 80; ++s) {
-        for (int r = 0; r < 10; ++r) {
-            std::string m = "M";
-            m += static_cast<char>(120 + r), m += static_cast<char>(128), m += static_cast<char>(130);
-            m += krt ? std::string("\x01\x01\x01\x00", 4) : std::string(4, '\0');
-            avi.chunk("02tx", m).chunk("00dc", kFiller.substr(0, 4000));
-        }
-        avi.nmea("$GPRMC,083000,A,3733.67,N,12658.98,E,10.0,,");
-    }
+    for (const auto& c : chunks) avi.chunk(c.tag, c.payload).chunk("00dc", kFiller.substr(0, frame));
     return indexed ? avi.indexed() : avi.bytes;
 }
 
+std::string aviClip(bool krt, bool indexed = false) {
+    const auto drive = cardgen::driveSeconds(0, 80, 10, krt ? cardgen::quantizeKrtBinary : cardgen::quantizeGeneralBinary);
+    return chunkClip(cardgen::binaryChunks(drive, "02tx", krt), 4000, indexed);
+}
+
 std::string textRecordClip() {
-    Avi avi;
-    for (int s = 0; s < 80; ++s) {
-        for (int r = 0; r < 10; ++r) avi.chunk("02tx", "gsensor,1," + std::to_string(r) + ",3" + '\0').chunk("00dc", kFiller);
-        avi.chunk("03tx", std::string("GPRMC,083000,A,3733.6700,N,12658.9800,E,10.0,90,211126") + '\0');
-    }
-    return avi.bytes;
+    return chunkClip(cardgen::textRecordChunks(cardgen::driveSeconds(0, 80, 10, cardgen::quantizeText), "02tx", false),
+                     kFiller.size());
 }
 
 std::string tailClip() {
@@ -56,19 +50,8 @@ std::string tailClip() {
     return c;
 }
 
-std::string srtTrack(int seconds) {
-    std::string t;
-    char start[64];
-    for (int i = 0; i < seconds * 10; ++i) {
-        std::snprintf(start, sizeof start, "%d\n00:%02d:%02d,%03d --> 00:59:59,000\n", i + 1, i / 600, i / 10 % 60,
-                      i % 10 * 100);
-        t += start;
-        t += "gsensori,1,128," + std::to_string(i % 100) + ",0,128";
-        if (i % 10 == 9) t += ";GPRMC,083000,A,4807.038,N,01131.000,E,5.4,,";
-        t += "\n\n";
-    }
-    return t;
-}
+// Ten cues a second of the generated drive, a position with every tenth.
+std::string srtTrack(int seconds) { return cardgen::srtTrack(cardgen::driveSeconds(0, seconds, 10, cardgen::quantizeText)); }
 
 struct Case {
     const char* name;

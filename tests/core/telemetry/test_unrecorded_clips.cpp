@@ -6,6 +6,7 @@
 #include <chrono>
 #include <functional>
 
+#include "cardgen/telemetry_encoders.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "test_bytes.h"
@@ -59,28 +60,20 @@ std::string preallocated(const TempDir& dir, const std::string& name, const std:
     return path.string();
 }
 
-Avi aviClip(bool krt) {
+// Five seconds of the generated drive in a chunk layout, a picture after every chunk.
+Avi chunkClip(const std::vector<cardgen::TextChunk>& chunks) {
     Avi avi;
-    for (int s = 0; s < 5; ++s) {
-        for (int r = 0; r < 10; ++r) {
-            std::string m = "M";
-            m += static_cast<char>(120 + r), m += static_cast<char>(128), m += static_cast<char>(130);
-            m += krt ? std::string("\x01\x01\x01\x00", 4) : std::string(4, '\0');
-            avi.chunk("02tx", m).chunk("00dc", std::string(3000, '\x5a'));
-        }
-        avi.nmea("$GPRMC,083000,A,3733.67,N,12658.98,E,10.0,,");
-    }
+    for (const auto& c : chunks) avi.chunk(c.tag, c.payload).chunk("00dc", std::string(3000, '\x5a'));
     return avi;
 }
 
+Avi aviClip(bool krt) {
+    const auto drive = cardgen::driveSeconds(0, 5, 10, krt ? cardgen::quantizeKrtBinary : cardgen::quantizeGeneralBinary);
+    return chunkClip(cardgen::binaryChunks(drive, "02tx", krt));
+}
+
 std::string textRecordClip() {
-    Avi avi;
-    for (int s = 0; s < 5; ++s) {
-        for (int r = 0; r < 10; ++r)
-            avi.chunk("02tx", "gsensor,1," + std::to_string(r) + ",3" + '\0').chunk("00dc", std::string(3000, '\x5a'));
-        avi.chunk("03tx", std::string("GPRMC,083000,A,3733.6700,N,12658.9800,E,10.0,90,211126") + '\0');
-    }
-    return avi.bytes;
+    return chunkClip(cardgen::textRecordChunks(cardgen::driveSeconds(0, 5, 10, cardgen::quantizeText), "02tx", false)).bytes;
 }
 
 }  // namespace

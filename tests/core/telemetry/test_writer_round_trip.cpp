@@ -173,16 +173,6 @@ TEST(WriterRoundTrip, SubtitleTrackThroughFfmpeg) {
             EXPECT_NEAR(lat, written[t / 10].fix.lat, 2e-5);
         }
     }
-    // The same track with CR LF line ends: cues without data.
-    std::string text = srtTrack(written, true);
-    track.loadFromText(text);
-    ASSERT_EQ(track.cueCount(), static_cast<std::size_t>(kSeconds * 10));
-    int x = 0, y = 0, z = 0;
-    EXPECT_TRUE(track.getSensorAt(3, x, y, z));
-    EXPECT_EQ(x, -512);
-    float lat, lng;
-    unsigned speed;
-    EXPECT_EQ(track.getGpsAt(9, lat, lng, speed), 2);
 }
 
 TEST(WriterRoundTrip, ChunksLandBetweenTheFramesOfTheirTime) {

@@ -8,6 +8,7 @@
 #include <regex>
 #include <sstream>
 
+#include "../settings/temp_card.h"
 #include "cardgen/card_plan.h"
 #include "core/library/check/card_report.h"
 #include "core/library/trips/clip_container.h"
@@ -24,20 +25,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Card {
-    fs::path root;
+// A fresh card written to `plan`.
+struct Card : test::TempCard {
     explicit Card(const cardgen::CardPlan& plan) {
-        root = fs::temp_directory_path() / ("tarvik-trips-" + std::to_string(::getpid()) + "-" + std::to_string(n()++));
         std::string error;
-        EXPECT_TRUE(cardgen::writeCard(plan, root, &error)) << error;
-    }
-    ~Card() {
-        std::error_code ec;
-        fs::remove_all(root, ec);
-    }
-    static int& n() {
-        static int v = 0;
-        return v;
+        EXPECT_TRUE(cardgen::writeCard(plan, root(), &error)) << error;
     }
 };
 
@@ -98,7 +90,7 @@ std::vector<std::string> gpsbabelTimes(const std::string& gpx) {
 
 TEST(CardTrips, FiveMinutePairsAreOneTrip) {
     Card card(cardgen::tripCardPlan(5, 60));
-    const std::vector<Trip> trips = scanCardTrips(card.root.string(), true);
+    const std::vector<Trip> trips = scanCardTrips(card.path(), true);
     ASSERT_EQ(trips.size(), 1u);
     const Trip& t = trips[0];
     ASSERT_EQ(t.clips.size(), 5u);
@@ -161,16 +153,16 @@ TEST(CardTrips, FiveMinutePairsAreOneTrip) {
     EXPECT_EQ(std::count(route.csvRows.begin(), route.csvRows.end(), '\n'), 3000);
     EXPECT_EQ(exportTripRoute(route, "gif", "x"), "");
 
-    ProcessResult text = runTarvik({"trips", card.root.string()});
+    ProcessResult text = runTarvik({"trips", card.path()});
     EXPECT_EQ(text.exitCode, 0);
     EXPECT_NE(text.output.find("2026-11-21 10:00:00  10:05:00  5:00"), std::string::npos) << text.output;
-    ProcessResult json = runTarvik({"trips", card.root.string(), "--json"});
+    ProcessResult json = runTarvik({"trips", card.path(), "--json"});
     EXPECT_EQ(json.exitCode, 0);
     EXPECT_NE(json.output.find("\"duration_seconds\": 300,"), std::string::npos) << json.output;
     EXPECT_EQ(runTarvik({"trips"}).exitCode, 2);
     EXPECT_EQ(runTarvik({"trips", "/no/such/card"}).exitCode, 2);
     // A drive without faults needs no attention (the rear clips carry no telemetry of their own).
-    EXPECT_EQ(runTarvik({"check", card.root.string()}).exitCode, 0);
+    EXPECT_EQ(runTarvik({"check", card.path()}).exitCode, 0);
 }
 
 TEST(CardCheck, NamesEveryKindOfFault) {
@@ -186,8 +178,8 @@ TEST(CardCheck, NamesEveryKindOfFault) {
     plan.files = {{"evt_rec/20261121_130300.mp4", ""}};
     plan.modelType = cardgen::demoModelType();
     Card card(plan);
-    const fs::path noIndex = card.root / "evt_rec/20261121_130100.mp4";
-    const fs::path truncated = card.root / "evt_rec/20261121_130200.avi";
+    const fs::path noIndex = card.root() / "evt_rec/20261121_130100.mp4";
+    const fs::path truncated = card.root() / "evt_rec/20261121_130200.avi";
     // The camera lost power: an MP4 before its index was written, an AVI mid-stream.
     {
         std::string bytes;
@@ -200,12 +192,12 @@ TEST(CardCheck, NamesEveryKindOfFault) {
     fs::resize_file(truncated, fs::file_size(truncated) / 2);
     EXPECT_EQ(inspectClipContainer(noIndex.string()).state, ContainerState::NoIndex);
     EXPECT_EQ(inspectClipContainer(truncated.string()).state, ContainerState::Truncated);
-    const ContainerInfo good = inspectClipContainer((card.root / "cont_rec/20261121_100000_F.avi").string());
+    const ContainerInfo good = inspectClipContainer((card.root() / "cont_rec/20261121_100000_F.avi").string());
     EXPECT_EQ(good.state, ContainerState::Playable);
     EXPECT_NEAR(good.seconds, 4.0, 0.01);
-    EXPECT_NEAR(inspectClipContainer((card.root / "cont_rec/20261121_100020_F.mp4").string()).seconds, 2.0, 0.1);
+    EXPECT_NEAR(inspectClipContainer((card.root() / "cont_rec/20261121_100020_F.mp4").string()).seconds, 2.0, 0.1);
 
-    ProcessResult r = runTarvik({"check", card.root.string()});
+    ProcessResult r = runTarvik({"check", card.path()});
     EXPECT_EQ(r.exitCode, 1) << r.output;
     for (const char* line : {"! unplayable %s/evt_rec/20261121_130300.mp4: zero bytes",
                              // Cameras without a GPS fix record all the same: a note, not a fault.
@@ -216,32 +208,32 @@ TEST(CardCheck, NamesEveryKindOfFault) {
                              "! rear-without-front %s/cont_rec/20261121_120100_R.mp4",
                              "- gap %s/cont_rec/20261121_100020_F.mp4: 8 s after 20261121_100008_F.avi"}) {
         char want[512];
-        std::snprintf(want, sizeof want, line, card.root.c_str());
+        std::snprintf(want, sizeof want, line, card.root().c_str());
         EXPECT_NE(r.output.find(want), std::string::npos) << want << "\n" << r.output;
     }
     EXPECT_NE(r.output.find("settings: readable, model "), std::string::npos) << r.output;
     // FFmpeg's own complaints about the damaged clips stay out of the answer unless asked for.
     EXPECT_EQ(r.output.find("moov atom"), std::string::npos) << r.output;
-    EXPECT_EQ(runTarvik({"trips", card.root.string()}).output.find("moov atom"), std::string::npos);
-    EXPECT_NE(runTarvik({"trips", "--verbose", card.root.string()}).output.find("moov atom"), std::string::npos);
-    const CardReport report = checkCard(card.root.string());
+    EXPECT_EQ(runTarvik({"trips", card.path()}).output.find("moov atom"), std::string::npos);
+    EXPECT_NE(runTarvik({"trips", "--verbose", card.path()}).output.find("moov atom"), std::string::npos);
+    const CardReport report = checkCard(card.path());
     EXPECT_EQ(report.count(FindingSeverity::Attention), 5);
     EXPECT_NE(r.output.find("\n5 things need attention\n"), std::string::npos) << r.output;
     EXPECT_EQ(report.clipCount, 12);
     EXPECT_EQ(report.settings.length, report.settings.expectedLength);
 
     // A settings file cut short is named too; the JSON form says the same.
-    const std::string record = M420SettingManager::recordFilePath(card.root.string());
+    const std::string record = M420SettingManager::recordFilePath(card.path());
     ASSERT_FALSE(record.empty());
     {
         fs::resize_file(record, 10);
-        ProcessResult j = runTarvik({"check", "--json", card.root.string()});
+        ProcessResult j = runTarvik({"check", "--json", card.path()});
         EXPECT_EQ(j.exitCode, 1);
         EXPECT_NE(j.output.find("\"kind\": \"settings\""), std::string::npos) << j.output;
         EXPECT_NE(j.output.find("\"needs_attention\": true"), std::string::npos);
     }
     EXPECT_EQ(runTarvik({"check"}).exitCode, 2);
-    EXPECT_EQ(runTarvik({"check", card.root.string(), "--bogus"}).exitCode, 2);
+    EXPECT_EQ(runTarvik({"check", card.path(), "--bogus"}).exitCode, 2);
 }
 
 TEST(CardCheck, DemoCardIsWell) {
@@ -250,7 +242,7 @@ TEST(CardCheck, DemoCardIsWell) {
     o.width = 64;
     o.height = 36;
     Card card(cardgen::demoCardPlan(o));
-    ProcessResult r = runTarvik({"check", card.root.string()});
+    ProcessResult r = runTarvik({"check", card.path()});
     EXPECT_EQ(r.exitCode, 0) << r.output;
     // Notes listed above the verdict are never followed by "all well".
     int notes = 0;

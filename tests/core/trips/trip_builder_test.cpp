@@ -62,3 +62,21 @@ TEST(TripBuilder, PairsCountOnceAndGapsSplit) {
     EXPECT_EQ(trips[3].clips.size(), 1u);
     EXPECT_EQ(trips[4].folder, "evt_rec");
 }
+
+// A trip goes on across a pause (or an overlap) of at most five seconds: the
+// edge itself, both ways; a clip of unknown length ends its trip.
+TEST(TripBuilder, FiveSecondsJoinSixSplit) {
+    const auto trips = build({
+        {"cont_rec/20261121_100000.mp4", 60.0},
+        {"cont_rec/20261121_100105.mp4", 60.0},  // 5 s after the end: joined
+        {"cont_rec/20261121_100211.mp4", 60.0},  // 6 s after: a new trip
+        {"cont_rec/20261121_101000.mp4", 60.0},
+        {"cont_rec/20261121_101055.mp4", 60.0},  // starts 5 s before the end: joined
+        {"cont_rec/20261121_101149.mp4", 60.0},  // 6 s before: a new trip
+        {"cont_rec/20261121_102000.mp4", 0.0},   // unknown length: nothing joins it
+        {"cont_rec/20261121_102003.mp4", 60.0},
+    });
+    ASSERT_EQ(trips.size(), 6u);
+    const std::vector<std::size_t> sizes = {2, 1, 2, 1, 1, 1};
+    for (std::size_t i = 0; i < trips.size(); ++i) EXPECT_EQ(trips[i].clips.size(), sizes[i]) << i;
+}

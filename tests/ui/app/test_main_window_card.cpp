@@ -5,12 +5,9 @@
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
+#include <optional>
 
-#include "cardgen/card_plan.h"
-#include "core/device/external_memory.h"
+#include "../card_volumes.h"
 #include "core/settings/m420/m420_model_types.h"
 #include "ui/shell/card_controller.h"
 #include "ui/shell/main_window.h"
@@ -23,33 +20,23 @@ namespace fs = std::filesystem;
 
 class MainWindowCardTest : public QObject {
     Q_OBJECT
-    fs::path volumes_;
+    std::optional<test::TestVolumes> volumes_;
 
-    fs::path mountCard(const std::string& name, int modelType, bool removable) {
-        fs::path root = volumes_ / name;
+    // A card with one front and rear pair of clips.
+    fs::path mountCard(const std::string& name, int modelType) {
+        fs::path root = volumes_->mount(name, modelType);
         fs::create_directories(root / "cont_rec");
         std::ofstream(root / "cont_rec" / "20261121_083000_F.mp4") << "x";
         std::ofstream(root / "cont_rec" / "20261121_083000_R.mp4") << "x";
-        if (removable) std::ofstream(root / kRemovableMarkerFile);
-        std::string error;
-        if (modelType >= 0) {
-            bool ok = cardgen::writeSettingsFiles(root, modelType, &error);
-            if (!ok) qWarning() << error.c_str();
-        }
         return root;
     }
 
 private slots:
-    void init() {
-        volumes_ = fs::temp_directory_path() / "tarvik-volumes-test";
-        fs::remove_all(volumes_);
-        fs::create_directories(volumes_);
-        setenv("TARVIK_VOLUMES_DIR", volumes_.c_str(), 1);
-    }
-    void cleanup() { fs::remove_all(volumes_); }
+    void init() { volumes_.emplace("window"); }
+    void cleanup() { volumes_.reset(); }
 
     void noCardLeavesTheModelUnknown() {
-        mountCard("USB_STICK", -1, true);  // removable, but no camera wrote it
+        mountCard("USB_STICK", -1);  // removable, but no camera wrote it
         MainWindowController c;
         QVERIFY(!c.updateModelInfo());
         QCOMPARE(c.views().modelTextField->text(), tr_k("unknown"));
@@ -58,7 +45,7 @@ private slots:
     }
 
     void recognisedCardShowsItsModelAndClips() {
-        mountCard("SDCARD", cardgen::demoModelType(), true);
+        mountCard("SDCARD", cardgen::demoModelType());
         MainWindowController c;
         QVERIFY(c.updateModelInfo());
         QVERIFY(c.views().settingsButton->isEnabled());
@@ -68,7 +55,7 @@ private slots:
     }
 
     void unmountingTheCardEmptiesTheList() {
-        fs::path card = mountCard("SDCARD", cardgen::demoModelType(), true);
+        fs::path card = mountCard("SDCARD", cardgen::demoModelType());
         MainWindowController c;
         QVERIFY(c.updateModelInfo());
         fs::remove_all(card);
@@ -78,7 +65,7 @@ private slots:
     }
 
     void startFallsBackToTheDemoFolderWithoutACard() {
-        fs::path demo = volumes_.parent_path() / "tarvik-demo-folder-test";
+        fs::path demo = volumes_->root().parent_path() / "tarvik-demo-folder-test";
         fs::remove_all(demo);
         fs::create_directories(demo / "evt_rec");
         std::ofstream(demo / "evt_rec" / "crash.avi") << "x";

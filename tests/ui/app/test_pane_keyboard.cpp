@@ -5,17 +5,12 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QCryptographicHash>
-#include <QDirIterator>
 #include <QScrollArea>
 #include <QScopeGuard>
 #include <QTest>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
+#include <optional>
 
-#include "cardgen/card_plan.h"
-#include "core/device/external_memory.h"
+#include "../card_volumes.h"
 #include "core/settings/m420/m420_setting_manager.h"
 #include "modal_script.h"
 #include "ui/shell/card_controller.h"
@@ -28,26 +23,11 @@
 #include "ui/settings/m420/m420_setting_view_controller.h"
 
 using namespace tarvik;
+using tarvik::test::cardHash;
 using tarvik::test::ModalScript;
 namespace fs = std::filesystem;
 
 namespace {
-
-// Every file of the card with its bytes, so any change anywhere shows.
-QByteArray cardHash(const fs::path& root) {
-    QStringList files;
-    QDirIterator it(QString::fromStdString(root.string()), QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) files << it.next();
-    files.sort();
-    QCryptographicHash h(QCryptographicHash::Sha256);
-    for (const QString& f : files) {
-        QFile file(f);
-        h.addData((f + "\n").toUtf8());
-        if (file.open(QIODevice::ReadOnly)) h.addData(file.readAll());
-    }
-    return h.result().toHex();
-}
 
 // Gives `control` the keyboard focus as a click or Tab would, in its window
 // made active, and presses `key` on whatever then has the focus.
@@ -71,6 +51,14 @@ QWidget* focusableOnShownTab(QWidget* paneView) {
     return nullptr;
 }
 
+const char* const kM420Tabs[] = {"commonTabButton", "alwaysTabButton", "parkingTabButton", "etcTabButton"};
+
+// Return writes what the pane was set to; Escape leaves every byte as it was.
+void expectCardAfterKey(int key, const fs::path& card, const QByteArray& before) {
+    if (key == Qt::Key_Return) QVERIFY(cardHash(card) != before);
+    else QCOMPARE(cardHash(card), before);
+}
+
 // A window a failed step left open would keep the test waiting for ever.
 auto cancelIfFailed(OrvoViewController* pane) {
     return qScopeGuard([pane] {
@@ -82,41 +70,28 @@ auto cancelIfFailed(OrvoViewController* pane) {
 
 class PaneKeyboardTest : public QObject {
     Q_OBJECT
-    fs::path volumes_;
-
-    fs::path mountCard(const std::string& name, int modelType) {
-        fs::path root = volumes_ / name;
-        fs::create_directories(root);
-        std::ofstream(root / kRemovableMarkerFile);
-        if (modelType >= 0) cardgen::writeSettingsFiles(root, modelType);
-        return root;
-    }
+    std::optional<test::TestVolumes> volumes_;
 
 private slots:
     void init() {
-        volumes_ = fs::temp_directory_path() / ("tarvik-volumes-keys-" + std::to_string(getpid()));
-        fs::remove_all(volumes_);
-        fs::create_directories(volumes_);
-        setenv("TARVIK_VOLUMES_DIR", volumes_.c_str(), 1);
+        volumes_.emplace("keys");
         M420SettingManager::ChagneM420SettingManager(std::make_unique<M420SettingManager>());
     }
-    void cleanup() { fs::remove_all(volumes_); }
+    void cleanup() { volumes_.reset(); }
 
     // On each of the four tabs, with a control of that tab focused.
     void m420PaneOnEveryTab_data() {
         QTest::addColumn<int>("tab");
         QTest::addColumn<int>("key");
-        static const char* tabs[] = {"commonTabButton", "alwaysTabButton", "parkingTabButton", "etcTabButton"};
         for (int t = 0; t < 4; ++t) {
-            QTest::newRow(QByteArray(tabs[t]) + " Return") << t << int(Qt::Key_Return);
-            QTest::newRow(QByteArray(tabs[t]) + " Escape") << t << int(Qt::Key_Escape);
+            QTest::newRow(QByteArray(kM420Tabs[t]) + " Return") << t << int(Qt::Key_Return);
+            QTest::newRow(QByteArray(kM420Tabs[t]) + " Escape") << t << int(Qt::Key_Escape);
         }
     }
     void m420PaneOnEveryTab() {
         QFETCH(int, tab);
         QFETCH(int, key);
-        static const char* tabs[] = {"commonTabButton", "alwaysTabButton", "parkingTabButton", "etcTabButton"};
-        const fs::path card = mountCard("M420CARD", 8);
+        const fs::path card = volumes_->mount("M420CARD", 8);
         const QByteArray before = cardHash(card);
         MainWindowController c;
         bool shown = false;
@@ -128,7 +103,7 @@ private slots:
             // A setting changed with the mouse, then the tab and its control.
             QAbstractButton* column = pane->control(m420pane::Control::Partition)->buttons()->button(1);
             QTest::mouseClick(column, Qt::LeftButton);
-            QTest::mouseClick(pane->view()->findChild<QAbstractButton*>(tabs[tab]), Qt::LeftButton);
+            QTest::mouseClick(pane->view()->findChild<QAbstractButton*>(kM420Tabs[tab]), Qt::LeftButton);
             QWidget* control = focusableOnShownTab(pane->view());
             QVERIFY(control);
             pressOn(control, Qt::Key(key));
@@ -136,8 +111,7 @@ private slots:
         c.card().openChosenCard(card.string());
         QVERIFY(shown);
         QVERIFY(script.done());
-        if (key == Qt::Key_Return) QVERIFY(cardHash(card) != before);
-        else QCOMPARE(cardHash(card), before);
+        expectCardAfterKey(key, card, before);
     }
 
     void krtPane_data() {
@@ -147,7 +121,7 @@ private slots:
     }
     void krtPane() {
         QFETCH(int, key);
-        const fs::path card = mountCard("KRTCARD", 6);
+        const fs::path card = volumes_->mount("KRTCARD", 6);
         const QByteArray before = cardHash(card);
         MainWindowController c;
         bool shown = false;
@@ -163,14 +137,13 @@ private slots:
         c.card().openChosenCard(card.string());
         QVERIFY(shown);
         QVERIFY(script.done());
-        if (key == Qt::Key_Return) QVERIFY(cardHash(card) != before);
-        else QCOMPARE(cardHash(card), before);
+        expectCardAfterKey(key, card, before);
     }
 
     // A card the viewer does not know: Return in the card picker, Return in
     // the model picker (a model chosen with the arrow keys), then the pane.
     void pickersConfirmWithReturn() {
-        const fs::path card = mountCard("BLANK", -1);
+        const fs::path card = volumes_->mount("BLANK", -1);
         const QByteArray before = cardHash(card);
         MainWindowController c;
         bool paneShown = false;
@@ -206,7 +179,7 @@ private slots:
     }
 
     void pickerCancelsWithEscape() {
-        const fs::path card = mountCard("BLANK", -1);
+        const fs::path card = volumes_->mount("BLANK", -1);
         const QByteArray before = cardHash(card);
         MainWindowController c;
         ModalScript script({[](QWidget*, OrvoViewController* p) {

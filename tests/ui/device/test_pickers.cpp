@@ -1,18 +1,13 @@
-// The card picker over "mounted" test volumes and the model picker.
+// The card picker over "mounted" test volumes. The model picker, and both
+// pickers' keys, are driven the user's way in the settings flow tests.
 
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-#include <QVBoxLayout>
-#include <QDialog>
 
 #include "core/device/external_memory.h"
 #include "core/device/volume_list.h"
-#include "core/settings/m420/m420_setting_manager.h"
-#include "ui/device/select_device_view_controller.h"
 #include "ui/device/select_flash_memory_view_controller.h"
 
 using namespace tarvik;
@@ -54,32 +49,6 @@ private slots:
         QCOMPARE(picker.comboBox()->count(), 0);
         QVERIFY(!picker.okButton()->isEnabled());
         QVERIFY(!picker.selectedFlashMeoryUrl());
-    }
-
-    void modelPickerListsTheModelTableInOrder() {
-        SelectDeviceViewController picker;
-        const auto& names = M420SettingManager::SharedM420SettingManager().modelNameList();
-        QCOMPARE(picker.comboBox()->count(), static_cast<int>(names.size()));
-        QCOMPARE(picker.selectedModelType(), 0);
-        picker.comboBox()->setCurrentIndex(6);
-        QCOMPARE(picker.comboBox()->currentText(), QString("Q260"));
-        QCOMPARE(picker.selectedModelType(), 6);
-    }
-
-    // Return confirms and Escape cancels inside a modal run.
-    void returnIsOkEscapeIsCancel() {
-        for (auto [key, code] : {std::pair{Qt::Key_Return, 1}, std::pair{Qt::Key_Escape, 0}}) {
-            SelectDeviceViewController picker;
-            QDialog dialog;
-            auto* layout = new QVBoxLayout(&dialog);
-            layout->addWidget(picker.view());
-            QTimer::singleShot(0, [&, key = key] {
-                QKeyEvent e(QEvent::KeyPress, key, Qt::NoModifier);
-                picker.keyDown(&e);
-            });
-            QCOMPARE(dialog.exec(), code);
-            picker.view()->setParent(nullptr);
-        }
     }
 };
 

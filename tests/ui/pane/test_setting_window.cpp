@@ -54,10 +54,6 @@ void pressKey(QWidget* w, int key) {
 class TestSettingWindow : public QObject {
     Q_OBJECT
 private slots:
-    void withoutParentTheFrameIsCentredOnTheOrigin() {
-        QCOMPARE(SettingWindow::centredFrame(QRect(), QSize(400, 300)), QRect(-200, -150, 400, 300));
-    }
-
     void modalRunReturnsThePanesCode() {
         ParentWindow parent;
         parent.setWindowFlag(Qt::FramelessWindowHint);

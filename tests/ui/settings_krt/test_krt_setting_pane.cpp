@@ -7,10 +7,8 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QCryptographicHash>
 #include <QDateTimeEdit>
 #include <QDir>
-#include <QDirIterator>
 #include <QScrollArea>
 #include <QSlider>
 #include <QTest>
@@ -19,7 +17,7 @@
 #include <fstream>
 #include <functional>
 
-#include "cardgen/card_plan.h"
+#include "../card_volumes.h"
 #include "core/settings/krt/krt_setting_manager.h"
 #include "core/settings/m420/m420_setting_manager.h"
 #include "core/settings/m420/settings_alert_sink.h"
@@ -35,6 +33,8 @@
 using namespace tarvik;
 namespace fs = std::filesystem;
 using C = KrtControl;
+using test::cardHash;
+using test::readFile;
 
 namespace {
 
@@ -50,28 +50,6 @@ struct CountingAlerts : SettingsAlertSink {
 void writeFile(const fs::path& p, const std::string& bytes) {
     fs::create_directories(p.parent_path());
     std::ofstream(p, std::ios::binary) << bytes;
-}
-
-std::string readFile(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-// Every file of the card, names and bytes.
-QByteArray cardHash(const fs::path& root) {
-    QCryptographicHash h(QCryptographicHash::Sha256);
-    QStringList files;
-    QDirIterator it(QString::fromStdString(root.string()), QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) files << it.next();
-    files.sort();
-    for (const QString& f : files) {
-        QFile file(f);
-        file.open(QIODevice::ReadOnly);
-        h.addData(f.toUtf8());
-        h.addData(file.readAll());
-    }
-    return h.result();
 }
 
 void setLanguage(const std::string& code) { QSettingsStore::shared().setStringList("AppleLanguages", {code}); }

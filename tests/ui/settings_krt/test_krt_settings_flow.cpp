@@ -4,13 +4,10 @@
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <functional>
+#include <optional>
 
-#include "cardgen/card_plan.h"
-#include "core/device/external_memory.h"
+#include "../card_volumes.h"
 #include "ui/shell/main_window_controller.h"
 #include "ui/base/pane/orvo_view_controller.h"
 #include "ui/base/pane/setting_window.h"
@@ -21,11 +18,6 @@ using namespace tarvik;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string readFile(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 // Acts on the pane once its modal window is up (polling: the button's click
 // only returns when the window closes).
@@ -48,23 +40,15 @@ ImageButton* buttonTitled(QWidget* w, const QString& title) {
 
 class KrtSettingsFlowTest : public QObject {
     Q_OBJECT
-    fs::path volumes_;
+    std::optional<test::TestVolumes> volumes_;
 
 private slots:
-    void init() {
-        volumes_ = fs::temp_directory_path() / ("tarvik-krt-flow-" + std::to_string(::getpid()));
-        fs::remove_all(volumes_);
-        fs::create_directories(volumes_ / "SDCARD");
-        std::ofstream(volumes_ / "SDCARD" / kRemovableMarkerFile);
-        std::string error;
-        QVERIFY2(cardgen::writeSettingsFiles(volumes_ / "SDCARD", 6, &error), error.c_str());
-        setenv("TARVIK_VOLUMES_DIR", volumes_.c_str(), 1);
-    }
-    void cleanup() { fs::remove_all(volumes_); }
+    void init() { volumes_.emplace("krt-flow"); }
+    void cleanup() { volumes_.reset(); }
 
     void settingsButtonOpensTheKrtPane() {
-        const fs::path cfg = volumes_ / "SDCARD" / "SETTING" / "blackbox.cfg";
-        const std::string original = readFile(cfg);
+        const fs::path cfg = volumes_->mount("SDCARD", 6) / "SETTING" / "blackbox.cfg";
+        const std::string original = test::readFile(cfg);
         MainWindowController c;
         QVERIFY(c.updateModelInfo());
         QCOMPARE(c.views().modelTextField->text(), QString("Q260"));
@@ -80,7 +64,7 @@ private slots:
         c.views().settingsButton->click();
         QVERIFY(shown);
         QCOMPARE(c.views().modelTextField->text(), QString("stale"));
-        QCOMPARE(readFile(cfg), original);
+        QCOMPARE(test::readFile(cfg), original);
 
         // OK: saved and the model shown again.
         whenPaneShows([&](SettingWindow* w) {
@@ -91,7 +75,7 @@ private slots:
         });
         c.views().settingsButton->click();
         QCOMPARE(c.views().modelTextField->text(), QString("Q260"));
-        QCOMPARE(readFile(cfg), original);  // nothing was changed, so the same bytes
+        QCOMPARE(test::readFile(cfg), original);  // nothing was changed, so the same bytes
     }
 };
 

@@ -6,9 +6,7 @@
 #include <QAbstractSlider>
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QCryptographicHash>
 #include <QDir>
-#include <QDirIterator>
 #include <QKeyEvent>
 #include <QTemporaryDir>
 #include <QSignalSpy>
@@ -20,7 +18,7 @@
 #include <unistd.h>
 #include <iterator>
 
-#include "cardgen/card_plan.h"
+#include "../card_volumes.h"
 #include "core/settings/m420/m420_setting_manager.h"
 #include "core/settings/m420/settings_alert_sink.h"
 #include "ui/base/prefs/qsettings_store.h"
@@ -36,17 +34,6 @@ namespace {
 QByteArray readAll(const QString& path) {
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-// Every file of the card with its bytes, so any change anywhere shows.
-QByteArray cardHash(const QString& root) {
-    QStringList files;
-    QDirIterator it(root, QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (it.hasNext()) files << it.next();
-    files.sort();
-    QCryptographicHash h(QCryptographicHash::Sha256);
-    for (const QString& f : files) h.addData((f + "\n").toUtf8()), h.addData(readAll(f));
-    return h.result().toHex();
 }
 
 void putLe32(QByteArray& b, int at, qint32 v) {
@@ -65,6 +52,11 @@ void openCard(const QString& root) {
     manager().loadVersionInfoForPath(root.toStdString());
     manager().loadData();
 }
+
+struct CountingAlerts : SettingsAlertSink {
+    int count = 0;
+    void showSettingsAlert(const std::string&, const std::string&, const std::string&) override { ++count; }
+};
 
 void clickColumn(M420SettingViewController& pane, Control c, int column) {
     pane.control(c)->buttons()->button(column)->click();
@@ -204,7 +196,7 @@ private slots:
                 QVERIFY(f.open(QIODevice::Append));
                 f.write(QByteArray(200, '\x5a'));
                 f.close();
-                const QByteArray hash = cardHash(card.path());
+                const QByteArray hash = test::cardHash(card.path().toStdString());
                 openCard(card.path());
                 M420SettingViewController pane;
                 pane.setAlertResponder([](const QString&, const QString&) { return 1001; });
@@ -219,7 +211,7 @@ private slots:
                 } else {
                     pane.cancelButtonTouched();
                 }
-                QCOMPARE(cardHash(card.path()), hash);
+                QCOMPARE(test::cardHash(card.path().toStdString()), hash);
             }
         }
     }
@@ -235,14 +227,14 @@ private slots:
             QVERIFY(f.open(QIODevice::WriteOnly));
             f.write(r);
             f.close();
-            const QByteArray hash = cardHash(card.path());
+            const QByteArray hash = test::cardHash(card.path().toStdString());
             M420SettingManager::ChagneM420SettingManager(std::make_unique<M420SettingManager>());
             manager().setSettingDirPath(card.path().toStdString());
             manager().setModelType(1);  // as the model picker would set it
             manager().loadData();
             M420SettingViewController pane;
             pane.cancelButtonTouched();
-            QCOMPARE(cardHash(card.path()), hash);
+            QCOMPARE(test::cardHash(card.path().toStdString()), hash);
             M420SettingViewController again;
             again.okButtonTouched();
             QCOMPARE(QFileInfo(card.path() + "/SETTING/setup.cfg").size(), 432);
@@ -253,7 +245,7 @@ private slots:
     void readOnlyCardAlertsAndKeepsItsFiles() {
         QTemporaryDir card;
         QVERIFY(cardgen::writeSettingsFiles(card.path().toStdString(), 1));
-        const QByteArray hash = cardHash(card.path());
+        const QByteArray hash = test::cardHash(card.path().toStdString());
         const std::string root = card.path().toStdString();
         const pid_t pid = ::fork();
         QVERIFY(pid >= 0);
@@ -264,10 +256,7 @@ private slots:
                 ::mount(root.c_str(), root.c_str(), nullptr, MS_BIND, nullptr) != 0 ||
                 ::mount(nullptr, root.c_str(), nullptr, MS_REMOUNT | MS_BIND | MS_RDONLY, nullptr) != 0)
                 ::_exit(77);
-            struct Sink : SettingsAlertSink {
-                int count = 0;
-                void showSettingsAlert(const std::string&, const std::string&, const std::string&) override { ++count; }
-            } sink;
+            CountingAlerts sink;
             setSettingsAlertSink(&sink);
             openCard(card.path());
             M420SettingViewController pane;
@@ -280,7 +269,7 @@ private slots:
         QVERIFY(WIFEXITED(status));
         if (WEXITSTATUS(status) == 77) QSKIP("cannot make a read-only card here");
         QCOMPARE(WEXITSTATUS(status), 0);
-        QCOMPARE(cardHash(card.path()), hash);
+        QCOMPARE(test::cardHash(card.path().toStdString()), hash);
     }
 
     void cardRemovedWhileOpenGetsNothingWritten() {
@@ -289,10 +278,7 @@ private slots:
         openCard(card.path());
         M420SettingViewController pane;
         QVERIFY(QDir(card.path() + "/SETTING").removeRecursively());  // the card is gone, its mount folder stays
-        struct Sink : SettingsAlertSink {
-            int count = 0;
-            void showSettingsAlert(const std::string&, const std::string&, const std::string&) override { ++count; }
-        } sink;
+        CountingAlerts sink;
         setSettingsAlertSink(&sink);
         pane.okButtonTouched();
         setSettingsAlertSink(nullptr);

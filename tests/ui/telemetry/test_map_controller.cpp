@@ -48,14 +48,6 @@ QJsonObject mapState(QWebEngineView& view) {
 class TestMapController : public QObject {
     Q_OBJECT
 private slots:
-    void moveCommandPutsLongitudeFirst() {
-        QCOMPARE(MapController::moveScript(37.5f, 127.25f), QString("MapMoveToAuto(127.250000,37.500000,-1)"));
-        QCOMPARE(MapController::moveScript(-33.868820f, 151.209290f),
-                 QString("MapMoveToAuto(151.209290,-33.868820,-1)"));
-        QCOMPARE(MapController::moveScript(48.1173f, -11.516667f),
-                 QString("MapMoveToAuto(-11.516667,48.117298,-1)"));
-    }
-
     void routeCollapsesRepeatsAndSkipsLeadingNoFix() {
         QCOMPARE(MapController::routeScript(OrvoClipData()), polyLine(""));
 

@@ -1,14 +1,9 @@
-#include <QHBoxLayout>
 #include <QImage>
-#include <QLabel>
 #include <QtTest>
 
-#include "core/telemetry/orvo_clip_data.h"
 #include "ui/base/prefs/notification_center.h"
 #include "ui/base/prefs/qsettings_store.h"
 #include "ui/controls/image_library.h"
-#include "ui/controls/image_names.h"
-#include "ui/telemetry/gravity_graph_view.h"
 #include "ui/telemetry/speed_meter_view.h"
 
 using namespace tarvik;
@@ -141,40 +136,6 @@ private slots:
         QVERIFY(moving.save(QDir::current().absoluteFilePath("speedometer-plain.png")));
         QVERIFY(still != moving);
         QVERIFY(still.pixel(60, 60) != qRgb(0, 0, 0));  // a plain dial face is drawn
-    }
-
-    void dashboardScreenshot() {
-        QWidget panel;
-        panel.setStyleSheet("background: #1c1e22");
-        auto* layout = new QHBoxLayout(&panel);
-        // The graph is transparent; the window puts the backdrop behind it.
-        auto* backdrop = new QLabel;
-        backdrop->setPixmap(ImageLibrary::pixmap(images::kGravityGraphBackground));
-        backdrop->setFixedSize(300, 64);
-        auto* graph = new GravityGraphView(backdrop);
-        graph->setGeometry(0, 0, 300, 64);
-        auto* meter = new SpeedMeterView;
-        auto* milesMeter = new SpeedMeterView;
-        meter->setFixedSize(180, 180);
-        milesMeter->setFixedSize(150, 150);
-        layout->addWidget(backdrop);
-        layout->addWidget(meter);
-        layout->addWidget(milesMeter);
-
-        OrvoClipData drive;  // a brake, a bump and a turn
-        drive.setClipDataCount(300);
-        for (int i = 0; i < 300; ++i) {
-            drive.storeSample(i, i > 100 && i < 130 ? -220 + (i - 100) * 6 : i % 7 - 3,
-                              i > 200 && i < 240 ? 160 : i % 5 * 2, 128 + (i == 150 ? 170 : i % 3 * 4), 0, 0, 0);
-        }
-        graph->setClipData(drive);
-        meter->setSpeed(87);
-        setUnit(1);  // the unit is taken when the speed is set, so the dials can differ
-        milesMeter->setSpeed(100);
-
-        const QString path = QDir::current().absoluteFilePath("dashboard.png");
-        QVERIFY(panel.grab().toImage().save(path));
-        qInfo("dashboard screenshot: %s", qPrintable(path));
     }
 };
 

@@ -2,12 +2,9 @@
 // and `tarvik card` reports them.
 
 #include <gtest/gtest.h>
-#include <unistd.h>
-
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
+#include "../temp_card.h"
 #include "cardgen/card_plan.h"
 #include "core/settings/m420/m420_model_types.h"
 #include "core/settings/m420/m420_setting_manager.h"
@@ -15,39 +12,29 @@
 #include "core/util/process_runner.h"
 
 using namespace tarvik;
+using test::TempCard;
 namespace fs = std::filesystem;
-
-namespace {
-struct TempDir {
-    TempDir() {
-        std::string t = (fs::temp_directory_path() / "tarvik-gen-XXXXXX").string();
-        path = ::mkdtemp(t.data());
-    }
-    ~TempDir() { fs::remove_all(path); }
-    fs::path path;
-};
-}  // namespace
 
 TEST(GeneratedCards, EveryModelIsDetectedWithItsRecordLength) {
     for (int type = 0; type < m420model::Count; ++type) {
-        TempDir card;
+        TempCard card;
         std::string error;
-        ASSERT_TRUE(cardgen::writeSettingsFiles(card.path, type, &error)) << error;
+        ASSERT_TRUE(cardgen::writeSettingsFiles(card.root(), type, &error)) << error;
         M420SettingManager m;
         const std::int64_t expected = type == m420model::Q810UK ? m420model::Q810 : std::min(type, 26);
-        EXPECT_EQ(m.loadModelTypeWithSDPath(card.path.string()), expected) << "type " << type;
+        EXPECT_EQ(m.loadModelTypeWithSDPath(card.path()), expected) << "type " << type;
         if (type == m420model::Q260) {
-            EXPECT_FALSE(fs::exists(card.path / "SETTING" / "setup.cfg"));
+            EXPECT_FALSE(fs::exists(card.root() / "SETTING" / "setup.cfg"));
             continue;
         }
         m.setModelType(type);
         m.setFirmwareVersionInt(M420SettingManager::firmwareNumberFromVersion(
-            M420SettingManager::loadVersionSDPath(card.path.string())));
-        EXPECT_EQ(fs::file_size(card.path / "SETTING" / "setup.cfg"), static_cast<std::uintmax_t>(m.getSaveDataSize()))
+            M420SettingManager::loadVersionSDPath(card.path())));
+        EXPECT_EQ(fs::file_size(card.root() / "SETTING" / "setup.cfg"), static_cast<std::uintmax_t>(m.getSaveDataSize()))
             << "type " << type;
-        EXPECT_EQ(fs::file_size(card.path / "SETTING" / "default.cfg"), fs::file_size(card.path / "SETTING" / "setup.cfg"));
-        EXPECT_TRUE(readSettingTimeFile(card.path.string()));
-        m.setSettingDirPath(card.path.string());
+        EXPECT_EQ(fs::file_size(card.root() / "SETTING" / "default.cfg"), fs::file_size(card.root() / "SETTING" / "setup.cfg"));
+        EXPECT_TRUE(readSettingTimeFile(card.path()));
+        m.setSettingDirPath(card.path());
         m.loadLanguages();
         EXPECT_EQ(m.languages().size(), 5u);
         if (type >= 26) EXPECT_EQ(m.modelName(), m.modelNameList()[type]);
@@ -57,12 +44,11 @@ TEST(GeneratedCards, EveryModelIsDetectedWithItsRecordLength) {
 }
 
 TEST(GeneratedCards, CardCommandPrintsModelAndFields) {
-    TempDir card;
-    ASSERT_TRUE(cardgen::writeSettingsFiles(card.path, cardgen::demoModelType()));
-    std::ifstream original(card.path / "SETTING" / "setup.cfg", std::ios::binary);
-    const std::string before{std::istreambuf_iterator<char>(original), {}};
+    TempCard card;
+    ASSERT_TRUE(cardgen::writeSettingsFiles(card.root(), cardgen::demoModelType()));
+    const std::string before = card.read("SETTING/setup.cfg");
     const std::string tarvik = std::string(TARVIK_BINARY_DIR) + "/tarvik";
-    ProcessResult r = ProcessRunner::run(tarvik, {"card", card.path.string()}, std::chrono::seconds(30));
+    ProcessResult r = ProcessRunner::run(tarvik, {"card", card.path()}, std::chrono::seconds(30));
     ASSERT_TRUE(r.started);
     EXPECT_EQ(r.exitCode, 0) << r.output;
     EXPECT_NE(r.output.find("model_type=5\n"), std::string::npos) << r.output;
@@ -73,25 +59,24 @@ TEST(GeneratedCards, CardCommandPrintsModelAndFields) {
     EXPECT_NE(r.output.find("\nset_resolution=0\n"), std::string::npos);  // the M640's last field
     EXPECT_EQ(r.output.find("parking_night_vision="), std::string::npos);  // not an M640 field
 
-    r = ProcessRunner::run(tarvik, {"card", card.path.string(), "--json"}, std::chrono::seconds(30));
+    r = ProcessRunner::run(tarvik, {"card", card.path(), "--json"}, std::chrono::seconds(30));
     EXPECT_EQ(r.exitCode, 0);
     EXPECT_NE(r.output.find("\"model_name\": \"M640\""), std::string::npos) << r.output;
     EXPECT_NE(r.output.find("\"lcd_off_timer\": 30000"), std::string::npos);
     EXPECT_NE(r.output.find("\"setting_path\": \"SETTING/M640_Setting.exe\""), std::string::npos);
 
     // Looking never writes.
-    std::ifstream in(card.path / "SETTING" / "setup.cfg", std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), before);
+    EXPECT_EQ(card.read("SETTING/setup.cfg"), before);
 
-    TempDir krt;
-    ASSERT_TRUE(cardgen::writeSettingsFiles(krt.path, m420model::Q260));
-    r = ProcessRunner::run(tarvik, {"card", krt.path.string()}, std::chrono::seconds(30));
+    TempCard krt;
+    ASSERT_TRUE(cardgen::writeSettingsFiles(krt.root(), m420model::Q260));
+    r = ProcessRunner::run(tarvik, {"card", krt.path()}, std::chrono::seconds(30));
     EXPECT_EQ(r.exitCode, 0);
     EXPECT_NE(r.output.find("model_name=Q260\n"), std::string::npos) << r.output;
     EXPECT_NE(r.output.find("\npower_off_vlt=12000\n"), std::string::npos);
 
-    TempDir empty;
-    r = ProcessRunner::run(tarvik, {"card", empty.path.string()}, std::chrono::seconds(30));
+    TempCard empty;
+    r = ProcessRunner::run(tarvik, {"card", empty.path()}, std::chrono::seconds(30));
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_NE(r.output.find("model_type=-1\n"), std::string::npos);
 }

@@ -2,12 +2,9 @@
 // opens that page's window, centred on the main window, and only one of them.
 #include <QPushButton>
 #include <QTest>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 
-#include "cardgen/card_plan.h"
-#include "core/device/external_memory.h"
+#include "../../card_volumes.h"
 #include "ui/shell/main_window.h"
 #include "ui/controls/image_button.h"
 #include "ui/shell/main_window_controller.h"
@@ -20,16 +17,11 @@ class TestWebSettingOpening : public QObject {
     Q_OBJECT
 private slots:
     void webModelsOpenOneSettingsPage() {
-        const fs::path volumes = fs::temp_directory_path() / "tarvik-volumes-web-opening";
-        fs::remove_all(volumes);
-        setenv("TARVIK_VOLUMES_DIR", volumes.c_str(), 1);
         for (int model : {25, 26}) {
-            const fs::path root = volumes / "CAM CARD";
-            fs::remove_all(root);
+            test::TestVolumes volumes("web-opening");
+            const fs::path root = volumes.mount("CAM CARD", model);
             fs::create_directories(root / "SETTING" / "html");
-            std::ofstream(root / kRemovableMarkerFile);
             std::ofstream(root / "SETTING" / "html" / "index.html") << "<html><body>camera</body></html>";
-            QVERIFY(cardgen::writeSettingsFiles(root, model));
 
             MainWindowController c;
             c.views().mainWindow->setGeometry(100, 80, 1280, 800);
@@ -48,7 +40,6 @@ private slots:
             w->cancelButton()->click();
             QVERIFY(QTest::qWaitFor([&] { return w.isNull(); }, 5000));
         }
-        fs::remove_all(volumes);
     }
 };
 
