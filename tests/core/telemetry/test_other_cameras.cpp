@@ -14,6 +14,7 @@
 
 #include "cardgen/mp4_box_writer.h"
 #include "cardgen/other_camera_layouts.h"
+#include "cardgen/ts_private_stream.h"
 #include "core/media/clip_telemetry_reading.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "test_bytes.h"
@@ -59,6 +60,7 @@ struct Family {
     const char* name;
     OtherLayout layout;
     bool hasG;
+    const char* ext = ".mp4";
 };
 
 const Family kFamilies[] = {
@@ -66,6 +68,8 @@ const Family kFamilies[] = {
     {"gpmf_gps9", OtherLayout::Gpmf9, true},
     {"free_gps_indexed", OtherLayout::FreeGpsIndexed, false},
     {"free_gps_scanned", OtherLayout::FreeGpsScanned, false},
+    {"free_gps_ts", OtherLayout::FreeGpsTs, false, ".ts"},
+    {"free_gps_ts_unlisted", OtherLayout::FreeGpsTsUnlisted, false, ".TS"},
     {"free_box_log", OtherLayout::FreeBoxLog, true},
     {"gps_record_box", OtherLayout::GpsRecordBox, false},
     {"nmea_track", OtherLayout::NmeaTrack, false},
@@ -80,7 +84,7 @@ TEST(OtherCameras, EveryFamilyReadsBackWhatWasWritten) {
         SCOPED_TRACE(fam.name);
         WrittenTelemetry w;
         std::string log;
-        const auto clip = dir.path / (std::string(fam.name) + ".mp4");
+        const auto clip = dir.path / (std::string(fam.name) + fam.ext);
         ASSERT_TRUE(writeOtherCameraClip(fam.layout, smallVideo(), kFrom, clip, &w, &log)) << log;
         const auto d = read(clip);
         ASSERT_EQ(d->clipDataCount(), kSeconds * 10);
@@ -140,11 +144,26 @@ TEST(OtherCameras, LookalikesTruncationsAndUnknownVariantsGiveNothing) {
             return slurp(plain);
         };
     };
+    // A plain transport stream with units of its own on the cameras' PID.
+    auto withTsUnits = [&](std::vector<std::string> units, bool listed) {
+        return [units, listed, &dir](std::string) {
+            const auto plain = dir.path / "plain.ts";
+            EXPECT_TRUE(makeVideo(smallVideo(), plain));
+            EXPECT_TRUE(addTsPrivateStream(plain, listed ? 0x0101 : 0x0300, units, listed));
+            return slurp(plain);
+        };
+    };
+    const std::string record = freeGpsTsRecord(kFrom, false);
+    std::string scrambled(84, '\0');  // a variant whose positions are enciphered
+    scrambled.replace(44, 1, "A");
+    scrambled.replace(52, 1, "N");
+    scrambled.replace(60, 1, "E");
     struct Case {
         const char* name;
         OtherLayout layout;
         std::function<std::string(std::string)> change;
         bool keepsG;
+        const char* ext = ".mp4";
     };
     const Case cases[] = {
         {"gps_box_of_blocks", OtherLayout::GpsRecordBox,
@@ -177,10 +196,25 @@ TEST(OtherCameras, LookalikesTruncationsAndUnknownVariantsGiveNothing) {
              return s;
          }, false},
         {"truncated", OtherLayout::FreeGpsIndexed, [](std::string s) { return s.substr(0, s.size() / 2); }, false},
+        {"ts_blocks_for_records", OtherLayout::FreeGpsTs, withTsUnits({block.substr(0, 300), block.substr(0, 300)}, true),
+         false, ".ts"},
+        {"ts_records_cut", OtherLayout::FreeGpsTsUnlisted,
+         withTsUnits({record.substr(0, 36), record.substr(0, 36)}, false), false, ".ts"},
+        {"ts_records_enciphered", OtherLayout::FreeGpsTsUnlisted, withTsUnits({scrambled, scrambled}, false), false,
+         ".ts"},
+        // The cameras' PID is taken only while no program map lists it as another kind of stream.
+        {"ts_records_on_a_listed_video_pid", OtherLayout::FreeGpsTsUnlisted,
+         [&](std::string s) {
+             const std::string at = std::string("\x1b\xe1\x00", 3);  // H.264 on PID 0x100
+             for (std::size_t i = s.find(at); i != std::string::npos; i = s.find(at, i + 1)) s[i + 2] = 0x00, s[i + 1] = '\xe3';
+             return s;
+         }, false, ".ts"},
+        {"ts_sync_lost", OtherLayout::FreeGpsTsUnlisted, [](std::string s) { return s.replace(2 * 188, 1, "\x48"); },
+         false, ".ts"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        const auto clip = dir.path / (std::string(c.name) + ".mp4");
+        const auto clip = dir.path / (std::string(c.name) + c.ext);
         std::string log;
         ASSERT_TRUE(writeOtherCameraClip(c.layout, smallVideo(), kFrom, clip, nullptr, &log)) << log;
         const std::string changed = c.change(slurp(clip));

@@ -39,8 +39,8 @@ double clock(const std::string& s) {
 
 // Every position of every embedded document. A document may hold several
 // (GPMF: ten a second), spread evenly over its sample's duration.
-std::vector<Reported> exiftool(const std::filesystem::path& clip, bool speedInMetresPerSecond) {
-    const std::string cmd = "exiftool -ee -n -a -s -G3 -q -q -SampleTime -SampleDuration -GPSDateTime -GPSLatitude "
+std::vector<Reported> exiftool(const std::filesystem::path& clip, bool speedInMetresPerSecond, const char* ee) {
+    const std::string cmd = std::string("exiftool ") + ee + " -n -a -s -G3 -q -q -SampleTime -SampleDuration -GPSDateTime -GPSLatitude "
                             "-GPSLongitude -GPSSpeed '" + clip.string() + "' 2>/dev/null";
     struct Doc {
         double time = NAN, duration = 0, clock = NAN;
@@ -88,11 +88,14 @@ TEST(OtherCamerasExifTool, PositionsAndSpeedsAgree) {
         const char* name;
         OtherLayout layout;
         bool metresPerSecond;
+        const char* ext = ".mp4";
+        const char* ee = "-ee";  // -ee3: the transport streams' PIDs left out of the program map too
     };
     const Family families[] = {
         {"gpmf", OtherLayout::Gpmf, true},
         {"free_gps_indexed", OtherLayout::FreeGpsIndexed, false},
         {"free_gps_scanned", OtherLayout::FreeGpsScanned, false},
+        {"free_gps_ts_unlisted", OtherLayout::FreeGpsTsUnlisted, false, ".ts", "-ee3"},
         {"free_box_log", OtherLayout::FreeBoxLog, false},
         {"gps_record_box", OtherLayout::GpsRecordBox, false},
     };
@@ -104,12 +107,12 @@ TEST(OtherCamerasExifTool, PositionsAndSpeedsAgree) {
     v.seconds = 12;
     for (const Family& fam : families) {
         SCOPED_TRACE(fam.name);
-        const auto clip = dir.path / (std::string(fam.name) + ".mp4");
+        const auto clip = dir.path / (std::string(fam.name) + fam.ext);
         std::string log;
         ASSERT_TRUE(writeOtherCameraClip(fam.layout, v, 30, clip, nullptr, &log)) << log;
         auto d = std::make_unique<OrvoClipData>();
         readClipTelemetry(clip.string(), *d);
-        const std::vector<Reported> rows = exiftool(clip, fam.metresPerSecond);
+        const std::vector<Reported> rows = exiftool(clip, fam.metresPerSecond, fam.ee);
         ASSERT_GE(rows.size(), 10u);
         for (const Reported& r : rows) {
             const int i = static_cast<int>(std::floor(r.t * 10 + 1e-6));
