@@ -157,6 +157,7 @@ private slots:
         QCOMPARE(nextClipRow({"/n/x_A.mp4", "/n/x_B.mp4", "/n/y.mp4"}, 0), 1);  // no time: not a camera's letter
         // AVI clips never pair, whatever their names say.
         QCOMPARE(nextClipRow({"/c/D_F.avi", "/c/D_R.avi", "/c/E.avi"}, 0), 1);
+        QCOMPARE(previousClipRow({"/c/D_F.avi", "/c/D_R.avi", "/c/E.avi"}, 2), 0);  // but back over them by name
         QVERIFY(isMp4ClipPath("/x/a.MP4"));
         QVERIFY(!isMp4ClipPath("/x.mp4/a"));
         QVERIFY(!isMp4ClipPath("/x/a.mp4.tmp"));

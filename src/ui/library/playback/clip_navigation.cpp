@@ -14,6 +14,12 @@ bool isPartnerOf(const std::string& row, const std::string& other) {
     return !partner.empty() && partner == other;
 }
 
+std::string replaceAll(std::string s, std::string_view from, std::string_view to) {
+    for (std::size_t i = s.find(from); i != std::string::npos; i = s.find(from, i + to.size()))
+        s.replace(i, from.size(), to);
+    return s;
+}
+
 }  // namespace
 
 bool isMp4ClipPath(std::string_view path) {
@@ -41,8 +47,12 @@ int previousClipRow(const std::vector<std::string>& list, int selected) {
     int p = selected - 1;
     // On the rear file of a pair the step lands on its own front file.
     if (selected >= 2 && !isPartnerOf(list[selected], list[selected - 1])) {
-        const std::string& rear = list[selected - 1];
-        if (!ClipCatalogue::isFrontOfPair(rear) && isPartnerOf(rear, list[selected - 2])) p = selected - 2;
+        std::string front = list[selected - 1];
+        if (front.find("F.") == std::string::npos) front = replaceAll(front, "R.", "F.");
+        if (front == list[selected - 2]) p = selected - 2;
+        // A lettered pair's B clip after its A clip.
+        else if (!ClipCatalogue::isFrontOfPair(list[selected - 1]) && isPartnerOf(list[selected - 1], list[selected - 2]))
+            p = selected - 2;
     }
     return p;
 }
