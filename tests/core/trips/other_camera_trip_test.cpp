@@ -42,6 +42,13 @@ TEST(OtherCameraTrips, OneDriveAcrossEveryFamily) {
     EXPECT_GT(t.distanceMetres, 200.0);
     // The clip named without a time is dated by its container.
     EXPECT_EQ(containerCreationTime(t.clips[4].path), t.clips[3].start + 6);
+    // A transport stream cut inside a packet (power lost) still runs to its cut.
+    const ContainerInfo whole = inspectClipContainer(t.clips[7].path);
+    fs::resize_file(t.clips[7].path, fs::file_size(t.clips[7].path) - 100);
+    const ContainerInfo cut = inspectClipContainer(t.clips[7].path);
+    EXPECT_EQ(cut.state, ContainerState::Playable);
+    EXPECT_NEAR(cut.seconds, whole.seconds, 0.2);
+    EXPECT_GT(whole.seconds, 5.5);
     std::error_code ec;
     fs::remove_all(root, ec);
 }

@@ -46,10 +46,8 @@ ContainerInfo inspectTransportStream(int fd, std::uint64_t size) {
     }
     if (prefix > 4) return info;
     const std::size_t len = kPacket + prefix;
-    if (size % len != 0) {
-        info.state = ContainerState::Truncated;
-        return info;
-    }
+    // A stream cut inside its last packet (power lost) plays to the cut: it
+    // has no index to lose, so the part packet is passed over.
     const std::uint64_t packets = size / len;
     const std::uint64_t look = std::min<std::uint64_t>(packets, kLook / len);
     std::vector<unsigned char> buf(static_cast<std::size_t>(look * len));

@@ -9,10 +9,9 @@
 
 namespace tarvik {
 
-// Playable with its seconds for a file of synchronised 188-byte packets (192
-// with a time code in front) that carries clock references; Truncated when
-// its size is not a whole number of packets; Unreadable when it is no
-// transport stream at all.
+// Playable, with its seconds when it carries clock references, for a file of
+// synchronised 188-byte packets (192 with a time code in front); Unreadable
+// when it is no transport stream at all.
 ContainerInfo inspectTransportStream(int fd, std::uint64_t size);
 
 }  // namespace tarvik
