@@ -1,4 +1,4 @@
-// Other camera families' telemetry on 1 GiB MP4s, each against a plain read of
+// Other camera families' telemetry on 1 GiB MP4s (and an MPEG-TS), each against a plain read of
 // the same file in the same run (warm): the layouts with an index (GPMF track,
 // "gps " box, boxes beside mdat, text track) and the freeGPS scan of mdat
 // without one; peak resident memory while reading.
@@ -19,6 +19,7 @@
 #include "bench_table.h"
 #include "cardgen/mp4_box_writer.h"
 #include "cardgen/other_camera_layouts.h"
+#include "cardgen/ts_private_stream.h"
 #include "core/telemetry/content_telemetry.h"
 #include "core/telemetry/orvo_clip_data.h"
 
@@ -234,9 +235,64 @@ void BM_NmeaTrack_1GiB(benchmark::State& state) {
     });
 }
 
+// A table section in a packet of its own, CRC after it, stuffing to the end.
+std::string tablePacket(std::uint16_t pid, const std::string& section) {
+    std::string s = section;
+    const std::uint32_t crc = mpegCrc32(reinterpret_cast<const unsigned char*>(s.data()), s.size());
+    for (int shift : {24, 16, 8, 0}) s += static_cast<char>(crc >> shift);
+    std::string p = {0x47, static_cast<char>(0x40 | pid >> 8), static_cast<char>(pid & 0xff), 0x10, 0};
+    p += s;
+    p.resize(188, static_cast<char>(0xff));
+    return p;
+}
+
+// 1 GiB of 188-byte packets: the tables, H.264-like packets of filler on
+// PID 0x100, and a freeGPS record a second on PID 0x0300, which the program
+// map leaves out.
+fs::path makeTransportStream() {
+    const fs::path path = workDir() / "free_gps.ts";
+    std::ofstream f(path, std::ios::binary);
+    const std::string pat = tablePacket(0, std::string("\x00\xb0\x0d\x00\x01\xc1\x00\x00\x00\x01\xf0\x00", 12));
+    const std::string pmt =
+        tablePacket(0x1000, std::string("\x02\xb0\x12\x00\x01\xc1\x00\x00\xe1\x00\xf0\x00\x1b\xe1\x00\xf0\x00", 17));
+    const std::uint64_t packets = kGiB / 188;
+    std::uint64_t seed = 88172645463325292ull;
+    std::string buf, fill;
+    int counter = 0, gpsCounter = 0;
+    for (std::uint64_t i = 0, second = 0; i < packets; ++i) {
+        if (i % 4096 == 0) buf += pat + pmt, i += 2;
+        if (second < kSeconds && i >= second * packets / kSeconds) {
+            const std::string unit = freeGpsTsRecord(static_cast<int>(second), false);
+            std::string pes = std::string("\x00\x00\x01\xbd", 4);
+            pes += static_cast<char>(0), pes += static_cast<char>(unit.size() + 3);
+            pes += std::string("\x80\x00\x00", 3) + unit;
+            const std::size_t stuffing = 184 - pes.size();
+            std::string p = {0x47, 0x43, 0x00, static_cast<char>(0x30 | (gpsCounter++ & 0x0f)),
+                             static_cast<char>(stuffing - 1), 0};
+            p.append(stuffing - 2, static_cast<char>(0xff));
+            buf += p + pes;
+            ++second;
+            continue;
+        }
+        fill.clear();
+        filler(fill, 184, seed);
+        buf += std::string{0x47, static_cast<char>(i % 50 == 0 ? 0x41 : 0x01), 0x00,
+                           static_cast<char>(0x10 | (counter++ & 0x0f))} +
+               fill;
+        if (buf.size() >= (8u << 20)) f.write(buf.data(), static_cast<std::streamsize>(buf.size())), buf.clear();
+    }
+    f.write(buf.data(), static_cast<std::streamsize>(buf.size()));
+    return path;
+}
+
+void BM_FreeGpsTs_1GiB(benchmark::State& state) {
+    compare(state, "freeGPS in an MPEG-TS private stream / warm plain read", 1.5, makeTransportStream);
+}
+
 BENCHMARK(BM_Gpmf_1GiB)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_FreeGpsIndexed_1GiB)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_FreeGpsScanned_1GiB)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_FreeGpsTs_1GiB)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_FreeBoxLog_1GiB)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_GpsRecordBox_1GiB)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_NmeaTrack_1GiB)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);

@@ -39,6 +39,7 @@ CardPlan otherCameraCardPlan(int clipSeconds, int width, int height) {
     add(stamp("DCIM/100GOPRO/GX01%02d%02d.MP4"), "", OtherLayout::Gpmf);  // the time only in its container
     add(stamp("NMEA/20261121_%02d%02d%02d.mp4"), "", OtherLayout::NmeaTrack);
     add(stamp("Side/20261121_%02d%02d%02d.mp4"), "", OtherLayout::SideFiles);
+    add(stamp("Movie/2026_1121_%02d%02d%02d_F.TS"), "", OtherLayout::FreeGpsTsUnlisted);
     return plan;
 }
 

@@ -4,6 +4,7 @@
 
 #include "cardgen/mp4_box_writer.h"
 #include "cardgen/other_camera_layouts.h"
+#include "cardgen/ts_private_stream.h"
 
 namespace tarvik::cardgen {
 
@@ -122,6 +123,14 @@ bool writeOtherCameraClip(OtherLayout layout, const VideoSpec& video, int from, 
         stem.replace_extension();
         return writeText(stem.string() + ".gps", nmeaLog(from, n, startMs, written)) &&
                writeText(stem.string() + ".3gf", gTable(from, n, written));
+    }
+    if (layout == L::FreeGpsTs || layout == L::FreeGpsTsUnlisted) {
+        const bool listed = layout == L::FreeGpsTs;
+        std::vector<std::string> units;
+        for (int i = 0; i < n; ++i) units.push_back(freeGpsTsRecord(from + i, listed, written, i));
+        if (addTsPrivateStream(out, listed ? 0x0101 : 0x0300, units, listed)) return true;
+        if (log) *log = "ffmpeg wrote no transport stream with a program map: " + out.string();
+        return false;
     }
     Mp4BoxWriter w;
     if (!w.load(out)) {

@@ -158,6 +158,16 @@ std::string freeGpsBlock(int driveSecond, WrittenTelemetry* written, double clip
     return b;
 }
 
+std::string freeGpsTsRecord(int driveSecond, bool head, WrittenTelemetry* written, double clipSecond) {
+    std::string r;
+    if (head) {
+        r = std::string("\x01\x00\xff\x00", 4) + "0123456789abcdef\n";
+        r.resize(164, '\0');
+    }
+    // Through the track, then 12 bytes the public dumps show after it.
+    return r + freeGpsBlock(driveSecond, written, clipSecond).substr(0x30, 44) + std::string(12, '\0');
+}
+
 std::string gpsRecord(int driveSecond, WrittenTelemetry* written, double clipSecond) {
     const DriveFix f = driveFix(driveSecond);
     const auto lat = static_cast<std::uint32_t>(f.valid ? std::lround(degreesMinutes(f.lat) * 1e3) : 0);

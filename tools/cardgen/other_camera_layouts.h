@@ -19,6 +19,8 @@ enum class OtherLayout {
     Gpmf9,           // the same with GPS9
     FreeGpsIndexed,  // "freeGPS " blocks and the "gps " index box in moov
     FreeGpsScanned,  // the blocks without the index
+    FreeGpsTs,       // MPEG-TS: the blocks' records after a 164-byte head, in a listed private stream
+    FreeGpsTsUnlisted,  // MPEG-TS: the bare records on PID 0x0300, left out of the program map
     FreeBoxLog,      // "free" box with sttm, a "gps " NMEA log and a "3gf " G table
     GpsRecordBox,    // top-level "GPS " box of 36-byte records
     NmeaTrack,       // RMC and GGA as the cues of a mov_text track
@@ -49,6 +51,8 @@ bool writeOtherCameraClip(OtherLayout layout, const VideoSpec& video, int driveO
 std::string gpmfSecond(int driveSecond, bool gps9, WrittenTelemetry* written = nullptr, double clipSecond = 0);
 // A 0x8000-byte "freeGPS " block for one second.
 std::string freeGpsBlock(int driveSecond, WrittenTelemetry* written = nullptr, double clipSecond = 0);
+// One second's record as a transport stream carries it, after a 164-byte head when `head`.
+std::string freeGpsTsRecord(int driveSecond, bool head, WrittenTelemetry* written = nullptr, double clipSecond = 0);
 // One 36-byte "GPS " box record.
 std::string gpsRecord(int driveSecond, WrittenTelemetry* written = nullptr, double clipSecond = 0);
 // "[ms]$GPRMC...\n[ms]$GPGGA...\n" lines for `seconds` seconds; startMs is the clip's start.

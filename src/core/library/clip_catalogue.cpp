@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "core/library/recording_time.h"
 #include "core/telemetry/mp4_clip_path.h"
 
 namespace tarvik {
@@ -37,8 +38,8 @@ bool endsWith(std::string_view s, std::string_view tail) {
 // outside the recording folders or walk in a circle. Directories are opened
 // relative to their parent with O_NOFOLLOW, so a folder swapped for a link
 // while scanning is refused as well.
-void scanDir(int dirFd, const std::string& dirPath, bool recursive, int depth, std::vector<DirId>& ancestors,
-             std::vector<std::string>& out) {
+void scanDir(int dirFd, const std::string& dirPath, bool recursive, bool otherCameras, int depth,
+             std::vector<DirId>& ancestors, std::vector<std::string>& out) {
     DIR* d = fdopendir(dirFd);
     if (!d) {
         close(dirFd);
@@ -58,7 +59,7 @@ void scanDir(int dirFd, const std::string& dirPath, bool recursive, int depth, s
             type = S_ISREG(st.st_mode) ? DT_REG : S_ISDIR(st.st_mode) ? DT_DIR : DT_UNKNOWN;
         }
         if (type == DT_REG) {
-            if (ClipCatalogue::isClipFileName(name)) {
+            if (otherCameras ? ClipCatalogue::isOtherCameraClipFileName(name) : ClipCatalogue::isClipFileName(name)) {
                 childPath.resize(base);
                 childPath.append(name);
                 out.push_back(childPath);
@@ -76,14 +77,15 @@ void scanDir(int dirFd, const std::string& dirPath, bool recursive, int depth, s
             childPath.resize(base);
             childPath.append(name);
             ancestors.push_back({st.st_dev, st.st_ino});
-            scanDir(fd, childPath, true, depth + 1, ancestors, out);
+            scanDir(fd, childPath, true, otherCameras, depth + 1, ancestors, out);
             ancestors.pop_back();
         }
     }
     closedir(d);
 }
 
-void scanInto(const std::string& dir, bool recursive, bool followTop, std::vector<std::string>& out) {
+void scanInto(const std::string& dir, bool recursive, bool followTop, bool otherCameras,
+              std::vector<std::string>& out) {
     if (dir.empty()) return;
     int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | (followTop ? 0 : O_NOFOLLOW);
     int fd = open(dir.c_str(), flags);
@@ -94,7 +96,7 @@ void scanInto(const std::string& dir, bool recursive, bool followTop, std::vecto
         return;
     }
     std::vector<DirId> ancestors{{st.st_dev, st.st_ino}};
-    scanDir(fd, dir, recursive, 0, ancestors, out);
+    scanDir(fd, dir, recursive, otherCameras, 0, ancestors, out);
 }
 
 }  // namespace
@@ -103,7 +105,7 @@ std::vector<std::string> ClipCatalogue::getVideoFilesInDirectoryUrl(const std::s
     std::vector<std::string> out;
     // The folder the caller names is taken as it is, even through a link: it is
     // what the user chose. Only what lies below it is held to the no-link rule.
-    scanInto(dir, enableRecursive, true, out);
+    scanInto(dir, enableRecursive, true, false, out);
     return out;
 }
 
@@ -115,6 +117,13 @@ bool ClipCatalogue::isClipFileName(std::string_view name) {
     char e[3] = {asciiLower(ext[0]), asciiLower(ext[1]), asciiLower(ext[2])};
     std::string_view l(e, 3);
     return l == "avi" || l == "mp4" || l == "mov";
+}
+
+bool ClipCatalogue::isOtherCameraClipFileName(std::string_view name) {
+    if (isClipFileName(name)) return true;
+    const std::size_t dot = name.rfind('.');
+    return dot != std::string_view::npos && dot > 0 && name.size() - dot == 3 &&
+           asciiLower(name[dot + 1]) == 't' && asciiLower(name[dot + 2]) == 's';
 }
 
 bool ClipCatalogue::passesFilter(std::string_view path, unsigned idx) {
@@ -189,6 +198,27 @@ std::string ClipCatalogue::partnerPath(std::string_view path) {
     return {};
 }
 
+std::string ClipCatalogue::cameraPartnerPath(std::string_view path) {
+    std::string p = partnerPath(path);
+    if (!p.empty()) return p;
+    const std::string_view name = fileName(path);
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string_view::npos || dot < 2 || !recordingMomentFromName(name)) return {};
+    const char letter = name[dot - 1], before = name[dot - 2];
+    if ((letter != 'A' && letter != 'B') || !(before == '_' || (before >= '0' && before <= '9'))) return {};
+    p = std::string(path);
+    p[path.size() - name.size() + dot - 1] = letter == 'A' ? 'B' : 'A';
+    return p;
+}
+
+bool ClipCatalogue::isFrontOfPair(std::string_view path) {
+    const std::string_view name = fileName(path);
+    if (contains(name, "F.")) return true;
+    if (contains(name, "R.")) return false;
+    const std::size_t dot = name.rfind('.');
+    return dot != std::string_view::npos && dot > 0 && name[dot - 1] == 'A';
+}
+
 void ClipCatalogue::refreshVideoFileListWithURL(const std::string& dir) {
     root_ = dir;
     refreshVideoFileList();
@@ -209,13 +239,13 @@ void ClipCatalogue::refreshVideoFileList() {
         }
         // A card of other cameras (or any folder the user chose) keeps its
         // clips in folders of its own naming: all of them are looked through.
-        scanInto(root_, !ownLayout, true, all_);
+        scanInto(root_, !ownLayout, true, !ownLayout, all_);
         for (std::string_view name : kRecordingFolders) {
             if (!ownLayout) break;
             folder.resize(base);
             folder.append(name);
             // A recording folder that is a link would lead off the card.
-            scanInto(folder, true, false, all_);
+            scanInto(folder, true, false, false, all_);
         }
     }
     applyVideoFileFilter();
@@ -272,7 +302,7 @@ std::string ClipCatalogue::takeBigVideoURL(int row) const {
 
     std::string result = cur;
     if (!isMp4ClipPath(cur)) return result;
-    const std::string partner = partnerPath(cur);
+    const std::string partner = cameraPartnerPath(cur);
     if (partner.empty()) return result;
     if (row > 0 && isMp4ClipPath(filtered_[row - 1]) && partner == filtered_[row - 1]) result = filtered_[row - 1];
     // The following entry wins over the preceding one.

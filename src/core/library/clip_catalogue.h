@@ -39,6 +39,9 @@ public:
     static std::vector<std::string> getVideoFilesInDirectoryUrl(const std::string& dir, bool enableRecursive);
     // True when the file name's extension, lower-cased, is avi, mp4 or mov.
     static bool isClipFileName(std::string_view name);
+    // On a card without the viewer's own recording folders, MPEG-TS clips
+    // (".ts") count as well: some other cameras write them.
+    static bool isOtherCameraClipFileName(std::string_view name);
     // Whether a clip path passes filter index idx.
     static bool passesFilter(std::string_view path, unsigned idx);
     // Sort order: clips under Saved_Videos first, then plain byte comparison of
@@ -48,6 +51,14 @@ public:
     // The path of the front/rear partner by the F./R. swap, or "" when the name
     // holds neither (see the .cpp for how escapes are treated).
     static std::string partnerPath(std::string_view path);
+    // The partner by the F./R. swap, else by the A/B letter that some other
+    // cameras put right after the recording time (20261121083000A.MP4,
+    // 2026_1121_083000_B.MP4): only there is it a camera's letter, and the
+    // partner then has the same time. The players, the list's stepping and
+    // the trips pair by this; "" when the name holds neither.
+    static std::string cameraPartnerPath(std::string_view path);
+    // Of a pair, the front: the F. clip, or the A clip of the lettered ones.
+    static bool isFrontOfPair(std::string_view path);
     // "file://" + the percent-encoded absolute path.
     static std::string fileUrlString(std::string_view path);
     // Last path component.

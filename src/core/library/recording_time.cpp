@@ -1,6 +1,7 @@
 #include "core/library/recording_time.h"
 
 #include <cstdio>
+#include <ctime>
 
 namespace tarvik {
 
@@ -73,6 +74,16 @@ std::string recordingTimeText(std::string_view name) {
     char out[32];
     std::snprintf(out, sizeof out, "%04d-%02d-%02d %02d:%02d:%02d", m->year, m->month, m->day, m->hour, m->minute,
                   m->second);
+    return out;
+}
+
+std::string recordingTimeText(std::int64_t t) {
+    const std::time_t when = static_cast<std::time_t>(t);
+    std::tm tm{};
+    if (t < 0 || !gmtime_r(&when, &tm)) return {};
+    char out[32];
+    std::snprintf(out, sizeof out, "%04d-%02d-%02d %02d:%02d:%02d", tm.tm_year + 1900, tm.tm_mon + 1, tm.tm_mday,
+                  tm.tm_hour, tm.tm_min, tm.tm_sec);
     return out;
 }
 

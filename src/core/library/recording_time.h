@@ -23,5 +23,8 @@ std::optional<RecordingMoment> recordingMomentFromName(std::string_view fileName
 
 // "2026-11-21 08:30:00" for such a name; "" otherwise.
 std::string recordingTimeText(std::string_view fileName);
+// The same text for a time read as the camera's clock wrote it (a
+// container's creation time, say), in seconds since 1970.
+std::string recordingTimeText(std::int64_t secondsSinceEpoch);
 
 }  // namespace tarvik

@@ -43,6 +43,12 @@ void readClipTelemetry(const std::string& path, OrvoClipData& data, SubtitleData
         if (readTelemetryByContent(path, data) == 0 && ext == ".mov") data.loadVideoFileCilpDataFromFilePath(path);
         return;
     }
+    // A transport stream holds none of the AVI cameras' layouts: it is not
+    // scanned for them.
+    if (ext == ".ts" && !krt) {
+        readTelemetryByContent(path, data);
+        return;
+    }
     if (krt || isKrtClipName(fileName(path))) {
         data.loadVideoFileCilpDataFromFilePath_KRT(path);
         return;

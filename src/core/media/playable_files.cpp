@@ -4,6 +4,7 @@
 #include <cctype>
 #include <filesystem>
 
+#include "core/library/clip_catalogue.h"
 #include "core/library/conversion/clip_converter.h"
 #include "core/media/media_probe.h"
 
@@ -28,7 +29,9 @@ PlayableFiles playableFilesOf(const std::string& clipPath) {
     }
     out.files = {clipPath};
     if (ext == ".mp4") {
-        const std::string partner = ClipConverter::partnerPathOf(clipPath);
+        // Lettered A/B pairs too (the partner's name carries the same time).
+        std::string partner = ClipConverter::partnerPathOf(clipPath);
+        if (partner.empty()) partner = ClipCatalogue::cameraPartnerPath(clipPath);
         std::error_code ec;
         if (!partner.empty() && fs::is_regular_file(partner, ec)) out.files.push_back(partner);
     }

@@ -23,6 +23,8 @@ int readGpmf(const BoundedFile& file, OrvoClipData& out);
 int readFreeGpsIndexed(const BoundedFile& file, OrvoClipData& out);
 // The same blocks found by a bounded scan of mdat (no "gps " box).
 int readFreeGpsScan(const BoundedFile& file, OrvoClipData& out);
+// The blocks' records in a private stream of an MPEG-TS (or M2TS) file.
+int readFreeGpsTs(const BoundedFile& file, OrvoClipData& out);
 // A top-level "free" box holding a "gps " NMEA log and a "3gf " G table.
 int readFreeBoxLog(const BoundedFile& file, OrvoClipData& out);
 // The top-level "GPS " box of 36-byte records.

@@ -13,9 +13,12 @@ namespace tarvik {
 namespace {
 
 // The readers that need the clip itself, cheapest first: the indexed ones
-// read the moov box and a few payloads; the mdat scan comes last.
-constexpr std::array kInClip = {readers::readGpmf, readers::readFreeGpsIndexed, readers::readGpsRecordBox,
-                                readers::readFreeBoxLog, readers::readNmeaTrack, readers::readFreeGpsScan};
+// read the moov box and a few payloads; the scans of a transport stream's
+// packets (which gives up at once on a file without its sync bytes) and of
+// mdat come last.
+constexpr std::array kInClip = {readers::readGpmf,      readers::readFreeGpsIndexed, readers::readGpsRecordBox,
+                                readers::readFreeBoxLog, readers::readNmeaTrack,      readers::readFreeGpsTs,
+                                readers::readFreeGpsScan};
 
 // "dir/name.ext" -> "dir/name" + each extension; the first regular file wins.
 bool openSide(const std::string& clip, std::initializer_list<const char*> exts, BoundedFile& file) {

@@ -1,7 +1,6 @@
 // Layout: ExifTool's QuickTimeStream.pl (ProcessFreeGPS, binary "freeGPS "
 // type of Novatek cameras; the "gps " index box; ScanMediaData's scan).
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -11,6 +10,7 @@
 #endif
 
 #include "core/telemetry/content_readers.h"
+#include "core/telemetry/free_gps_record.h"
 #include "core/telemetry/mp4_boxes.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/timed_telemetry.h"
@@ -28,49 +28,14 @@ constexpr std::uint64_t kFirstBlockWithin = 20u << 20;  // of mdat's start, per 
 constexpr std::size_t kWindow = 512u << 10;
 constexpr char kMagic[] = "freeGPS ";
 
-float leFloat(const unsigned char* p) {
-    const std::uint32_t u = le32(p);
-    float f;
-    std::memcpy(&f, &u, 4);
-    return f;
-}
-double leDouble(const unsigned char* p) {
-    std::uint64_t u = le32(p) | std::uint64_t{le32(p + 4)} << 32;
-    double d;
-    std::memcpy(&d, &u, 8);
-    return d;
-}
-
-double fromDegreesMinutes(double v) {
-    const double d = std::floor(v / 100.0);
-    return d + (v - d * 100.0) / 60.0;
-}
-
-enum class Block { Unknown, NoFix, Fix };
-
-// The binary layout: time of day at 0x30, status and hemispheres at 0x48,
-// float ddmm.mmmm latitude and longitude at 0x4c / 0x50, knots at 0x54.
-// Encrypted and other variants are Unknown: they give no sample at all.
-Block parseBlock(const unsigned char* b, std::size_t n, TimedFix& fix) {
-    if (n < kMinBlock || std::memcmp(b + 4, kMagic, 8) != 0) return Block::Unknown;
+// The block: a box of type "freeGPS " whose record starts at 0x30, with the
+// position again as doubles at 0x70 / 0x80 in the longer ones. Encrypted and
+// other variants give no sample at all.
+FreeGpsRecord parseBlock(const unsigned char* b, std::size_t n, TimedFix& fix) {
+    if (n < kMinBlock || std::memcmp(b + 4, kMagic, 8) != 0) return FreeGpsRecord::Unknown;
     static const unsigned char kEncrypted[] = {0xaa, 0xaa, 0xf2, 0xe1, 0xf0, 0xee, 0x54, 0x54};
-    if (std::memcmp(b + 18, kEncrypted, 8) == 0 || std::memcmp(b + 16, "IQS", 3) == 0) return Block::Unknown;
-    if (le32(b + 0x30) > 23 || le32(b + 0x34) > 59 || le32(b + 0x38) > 59) return Block::Unknown;
-    const char status = static_cast<char>(b[0x48]), ns = static_cast<char>(b[0x49]), ew = static_cast<char>(b[0x4a]);
-    if (status == 'V') return Block::NoFix;
-    if (status != 'A' || (ns != 'N' && ns != 'S') || (ew != 'E' && ew != 'W')) return Block::Unknown;
-    double lat = leFloat(b + 0x4c), lng = leFloat(b + 0x50);
-    // Some cameras add the same position as doubles; they win when they agree.
-    if (n >= kBlockHead) {
-        const double lat2 = leDouble(b + 0x70), lng2 = leDouble(b + 0x80);
-        if (std::fabs(lat2 - lat) < 0.001 && std::fabs(lng2 - lng) < 0.001) lat = lat2, lng = lng2;
-    }
-    if (!(lat > 0) || !(lng > 0)) return Block::Unknown;
-    fix.valid = true;
-    fix.lat = fromDegreesMinutes(lat) * (ns == 'S' ? -1 : 1);
-    fix.lng = fromDegreesMinutes(lng) * (ew == 'W' ? -1 : 1);
-    fix.kmh = leFloat(b + 0x54) * 1.852;
-    return Block::Fix;
+    if (std::memcmp(b + 18, kEncrypted, 8) == 0 || std::memcmp(b + 16, "IQS", 3) == 0) return FreeGpsRecord::Unknown;
+    return parseFreeGpsRecord(b + 0x30, n >= kBlockHead ? b + 0x70 : nullptr, fix);
 }
 
 // Adds the block at `offset` (of `size` bytes, when known) as second `second`.
@@ -79,8 +44,7 @@ bool addBlock(const BoundedFile& file, std::uint64_t offset, std::uint64_t size,
     const std::size_t n = static_cast<std::size_t>(std::min<std::uint64_t>(size, kBlockHead));
     if (n < kMinBlock || !file.readAt(offset, b, n)) return false;
     TimedFix fix;
-    const Block kind = parseBlock(b, n, fix);
-    if (kind == Block::Unknown) return false;
+    if (parseBlock(b, n, fix) == FreeGpsRecord::Unknown) return false;
     into.addFix(second, fix);
     into.extendTo(second + 1.0);
     return true;

@@ -36,7 +36,7 @@ QStringList ClipDeleter::filesOf(const ClipCatalogue& catalogue, int row) {
     if (row < 0 || row >= catalogue.rowCount()) return {};
     const std::string clip = catalogue.filteredVideoFileList()[static_cast<std::size_t>(row)];
     QStringList files{fromBytes(clip)};
-    const std::string partner = ClipCatalogue::partnerPath(clip);
+    const std::string partner = ClipCatalogue::cameraPartnerPath(clip);
     if (!partner.empty() && QFileInfo::exists(fromBytes(partner))) files << fromBytes(partner);
     return files;
 }

@@ -77,13 +77,16 @@ TEST_F(TempCard, ScanTakesRootAndListedFoldersAtAnyDepthOnly) {
 
 TEST_F(TempCard, CardsOfOtherCamerasAreLookedThroughWhole) {
     // No recording folder of the viewer's own cameras: every folder counts.
-    touch({"DCIM/100MEDIA/GX010001.MP4", "Normal/Front/2026_1121_083000_F.MP4", "top.mov", ".hidden/x.mp4"});
+    touch({"DCIM/100MEDIA/GX010001.MP4", "Normal/Front/2026_1121_083000_F.MP4", "top.mov", ".hidden/x.mp4",
+           "Movie/2026_1121_083100_F.TS", "Movie/notes.tsv"});
     cat.refreshVideoFileListWithURL(root);
-    EXPECT_EQ(sorted(names(cat.allVideoFileList())), (Strings{"2026_1121_083000_F.MP4", "GX010001.MP4", "top.mov"}));
+    // Transport streams too, which the viewer's own cameras never write.
+    EXPECT_EQ(sorted(names(cat.allVideoFileList())),
+              (Strings{"2026_1121_083000_F.MP4", "2026_1121_083100_F.TS", "GX010001.MP4", "top.mov"}));
 }
 
 TEST_F(TempCard, ClipFilesAreDecidedByExtensionAlone) {
-    for (const char* n : {"CLIP.MP4", "clip.Mov", "x.avi", "empty.mp4", "clip.mpg", "clip.mp4.tmp", ".hidden.mp4", "mp4",
+    for (const char* n : {"CLIP.MP4", "clip.Mov", "x.avi", "empty.mp4", "clip.mpg", "clip.ts", "clip.mp4.tmp", ".hidden.mp4", "mp4",
                           "clip.mp", "clip.mp4 ", "clip."})
         touch(std::string("cont_rec/") + n);
     touch("cont_rec/.trash/inside.mp4");  // hidden folders are skipped as a whole

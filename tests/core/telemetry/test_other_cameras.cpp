@@ -1,19 +1,25 @@
 // Clips of other camera families, written by the card generator from the
 // public layouts, read back through the reader choice the player, the trips
-// and the command share: every sample's time, position, speed and G.
+// and the command share: every sample's time, position, speed and G, checked
+// against ExifTool's reading of the same clips where it reads them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
 #include <functional>
 #include <fstream>
 #include <iterator>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "cardgen/mp4_box_writer.h"
 #include "cardgen/other_camera_layouts.h"
+#include "cardgen/ts_private_stream.h"
 #include "core/media/clip_telemetry_reading.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "test_bytes.h"
@@ -55,32 +61,101 @@ std::unique_ptr<OrvoClipData> read(const std::filesystem::path& clip) {
     return d;
 }
 
+struct Reported {
+    double t;  // seconds from the clip's start
+    double lat, lng, kmh;
+};
+
+double number(const std::string& s) { return s.empty() || s == "-" ? NAN : std::strtod(s.c_str(), nullptr); }
+
+// Seconds of the day of "YYYY:MM:DD hh:mm:ss[.sss][Z]".
+double clock(const std::string& s) {
+    int y, mo, d, h, mi;
+    double sec;
+    if (std::sscanf(s.c_str(), "%d:%d:%d %d:%d:%lf", &y, &mo, &d, &h, &mi, &sec) != 6) return NAN;
+    return h * 3600 + mi * 60 + sec;
+}
+
+// Every position of every embedded document. A document may hold several
+// (GPMF: ten a second), spread evenly over its sample's duration.
+std::vector<Reported> exiftool(const std::filesystem::path& clip, bool speedInMetresPerSecond, const char* ee) {
+    const std::string cmd = std::string("exiftool ") + ee + " -n -a -s -G3 -q -q -SampleTime -SampleDuration -GPSDateTime -GPSLatitude "
+                            "-GPSLongitude -GPSSpeed '" + clip.string() + "' 2>/dev/null";
+    struct Doc {
+        double time = NAN, duration = 0, clock = NAN;
+        std::vector<double> lat, lng, speed;
+    };
+    std::map<int, Doc> docs;
+    FILE* p = popen(cmd.c_str(), "r");
+    if (!p) return {};
+    char line[512];
+    while (std::fgets(line, sizeof line, p)) {
+        int doc;
+        char tag[64], value[256];
+        if (std::sscanf(line, "[Doc%d] %63s : %255[^\n]", &doc, tag, value) != 3) continue;
+        Doc& d = docs[doc];
+        const std::string t = tag;
+        if (t == "SampleTime") d.time = number(value);
+        else if (t == "SampleDuration") d.duration = number(value);
+        else if (t == "GPSDateTime") d.clock = clock(value);
+        else if (t == "GPSLatitude") d.lat.push_back(number(value));
+        else if (t == "GPSLongitude") d.lng.push_back(number(value));
+        else if (t == "GPSSpeed") d.speed.push_back(number(value) * (speedInMetresPerSecond ? 3.6 : 1.0));
+    }
+    pclose(p);
+    std::vector<Reported> out;
+    double firstClock = NAN;
+    int index = 0;
+    for (const auto& [n, d] : docs) {
+        if (std::isnan(firstClock)) firstClock = d.clock;
+        // Without a time of its own a document is the next second's record.
+        const double start = !std::isnan(d.time) ? d.time : !std::isnan(d.clock) ? d.clock - firstClock : index;
+        ++index;
+        const std::size_t m = std::min({d.lat.size(), d.lng.size(), d.speed.size()});
+        for (std::size_t j = 0; j < m; ++j)
+            if (d.lat[j] != 0 || d.lng[j] != 0) out.push_back({start + j * d.duration / m, d.lat[j], d.lng[j], d.speed[j]});
+    }
+    return out;
+}
+
 struct Family {
     const char* name;
     OtherLayout layout;
     bool hasG;
+    const char* ext;
+    // How the installed ExifTool is asked for the family's positions (-ee3:
+    // also a transport stream's PIDs that the program map leaves out); none
+    // for the layouts it does not read.
+    const char* exiftoolOption;
+    bool exiftoolMetresPerSecond;
 };
 
 const Family kFamilies[] = {
-    {"gpmf_gps5", OtherLayout::Gpmf, true},
-    {"gpmf_gps9", OtherLayout::Gpmf9, true},
-    {"free_gps_indexed", OtherLayout::FreeGpsIndexed, false},
-    {"free_gps_scanned", OtherLayout::FreeGpsScanned, false},
-    {"free_box_log", OtherLayout::FreeBoxLog, true},
-    {"gps_record_box", OtherLayout::GpsRecordBox, false},
-    {"nmea_track", OtherLayout::NmeaTrack, false},
-    {"side_files", OtherLayout::SideFiles, true},
+    {"gpmf_gps5", OtherLayout::Gpmf, true, ".mp4", "-ee", true},
+    {"gpmf_gps9", OtherLayout::Gpmf9, true, ".mp4", nullptr, false},
+    {"free_gps_indexed", OtherLayout::FreeGpsIndexed, false, ".mp4", "-ee", false},
+    {"free_gps_scanned", OtherLayout::FreeGpsScanned, false, ".mp4", "-ee", false},
+    {"free_gps_ts", OtherLayout::FreeGpsTs, false, ".ts", nullptr, false},
+    {"free_gps_ts_unlisted", OtherLayout::FreeGpsTsUnlisted, false, ".TS", "-ee3", false},
+    {"free_box_log", OtherLayout::FreeBoxLog, true, ".mp4", "-ee", false},
+    {"gps_record_box", OtherLayout::GpsRecordBox, false, ".mp4", "-ee", false},
+    {"nmea_track", OtherLayout::NmeaTrack, false, ".mp4", nullptr, false},
+    {"side_files", OtherLayout::SideFiles, true, ".mp4", nullptr, false},
 };
 
 }  // namespace
 
+// And where the installed ExifTool reads the same clip, its positions and
+// speeds agree with the viewer's samples of those moments.
 TEST(OtherCameras, EveryFamilyReadsBackWhatWasWritten) {
     TempDir dir;
+    const bool haveExiftool = std::system("exiftool -ver >/dev/null 2>&1") == 0;
+    if (!haveExiftool) std::printf("exiftool is not installed: its comparison is left out\n");
     for (const Family& fam : kFamilies) {
         SCOPED_TRACE(fam.name);
         WrittenTelemetry w;
         std::string log;
-        const auto clip = dir.path / (std::string(fam.name) + ".mp4");
+        const auto clip = dir.path / (std::string(fam.name) + fam.ext);
         ASSERT_TRUE(writeOtherCameraClip(fam.layout, smallVideo(), kFrom, clip, &w, &log)) << log;
         const auto d = read(clip);
         ASSERT_EQ(d->clipDataCount(), kSeconds * 10);
@@ -114,6 +189,19 @@ TEST(OtherCameras, EveryFamilyReadsBackWhatWasWritten) {
         }
         EXPECT_EQ(d->gpsDataCount(), withFix);
         EXPECT_EQ(tunnel, 70);  // seven seconds without a fix
+
+        if (!fam.exiftoolOption || !haveExiftool) continue;
+        const std::vector<Reported> rows = exiftool(clip, fam.exiftoolMetresPerSecond, fam.exiftoolOption);
+        // At least the seconds before the tunnel: ExifTool leaves a TS stream at its first record without a fix.
+        ASSERT_GE(rows.size(), 4u);
+        for (const Reported& r : rows) {
+            const int i = static_cast<int>(std::floor(r.t * 10 + 1e-6));
+            SCOPED_TRACE(r.t);
+            ASSERT_LT(i, d->clipDataCount());
+            EXPECT_NEAR(d->getGpsLat(i), r.lat, 1e-5);
+            EXPECT_NEAR(d->getGpsLng(i), r.lng, 1e-5);
+            EXPECT_NEAR(d->getGpsSpeed(i), r.kmh, 0.5);
+        }
     }
 }
 
@@ -140,11 +228,26 @@ TEST(OtherCameras, LookalikesTruncationsAndUnknownVariantsGiveNothing) {
             return slurp(plain);
         };
     };
+    // A plain transport stream with units of its own on the cameras' PID.
+    auto withTsUnits = [&](std::vector<std::string> units, bool listed) {
+        return [units, listed, &dir](std::string) {
+            const auto plain = dir.path / "plain.ts";
+            EXPECT_TRUE(makeVideo(smallVideo(), plain));
+            EXPECT_TRUE(addTsPrivateStream(plain, listed ? 0x0101 : 0x0300, units, listed));
+            return slurp(plain);
+        };
+    };
+    const std::string record = freeGpsTsRecord(kFrom, false);
+    std::string scrambled(84, '\0');  // a variant whose positions are enciphered
+    scrambled.replace(44, 1, "A");
+    scrambled.replace(52, 1, "N");
+    scrambled.replace(60, 1, "E");
     struct Case {
         const char* name;
         OtherLayout layout;
         std::function<std::string(std::string)> change;
         bool keepsG;
+        const char* ext = ".mp4";
     };
     const Case cases[] = {
         {"gps_box_of_blocks", OtherLayout::GpsRecordBox,
@@ -177,10 +280,25 @@ TEST(OtherCameras, LookalikesTruncationsAndUnknownVariantsGiveNothing) {
              return s;
          }, false},
         {"truncated", OtherLayout::FreeGpsIndexed, [](std::string s) { return s.substr(0, s.size() / 2); }, false},
+        {"ts_blocks_for_records", OtherLayout::FreeGpsTs, withTsUnits({block.substr(0, 300), block.substr(0, 300)}, true),
+         false, ".ts"},
+        {"ts_records_cut", OtherLayout::FreeGpsTsUnlisted,
+         withTsUnits({record.substr(0, 36), record.substr(0, 36)}, false), false, ".ts"},
+        {"ts_records_enciphered", OtherLayout::FreeGpsTsUnlisted, withTsUnits({scrambled, scrambled}, false), false,
+         ".ts"},
+        // The cameras' PID is taken only while no program map lists it as another kind of stream.
+        {"ts_records_on_a_listed_video_pid", OtherLayout::FreeGpsTsUnlisted,
+         [&](std::string s) {
+             const std::string at = std::string("\x1b\xe1\x00", 3);  // H.264 on PID 0x100
+             for (std::size_t i = s.find(at); i != std::string::npos; i = s.find(at, i + 1)) s[i + 2] = 0x00, s[i + 1] = '\xe3';
+             return s;
+         }, false, ".ts"},
+        {"ts_sync_lost", OtherLayout::FreeGpsTsUnlisted, [](std::string s) { return s.replace(2 * 188, 1, "\x48"); },
+         false, ".ts"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        const auto clip = dir.path / (std::string(c.name) + ".mp4");
+        const auto clip = dir.path / (std::string(c.name) + c.ext);
         std::string log;
         ASSERT_TRUE(writeOtherCameraClip(c.layout, smallVideo(), kFrom, clip, nullptr, &log)) << log;
         const std::string changed = c.change(slurp(clip));

@@ -49,7 +49,8 @@ TEST(TimedTelemetry, EachTenthTakesTheLatestReadingAtOrBeforeIt) {
     EXPECT_EQ(d->gpsDataCount(), 0);
 }
 
-// Sizes of zero, past the end or of billions of entries end a walk at once:
+// Sizes of zero, past the end or of billions of entries end a walk at once,
+// and the scans for blocks without an index give up early:
 // a hostile file costs reads of a few headers, never of its claimed size.
 TEST(TimedTelemetry, LyingBoxesEndTheWalkAtOnce) {
     auto d = std::make_unique<OrvoClipData>();
@@ -58,7 +59,8 @@ TEST(TimedTelemetry, LyingBoxesEndTheWalkAtOnce) {
         const auto t0 = std::chrono::steady_clock::now();
         int n = 0;
         for (auto r : {readers::readGpmf, readers::readFreeGpsIndexed, readers::readFreeGpsScan,
-                       readers::readFreeBoxLog, readers::readGpsRecordBox, readers::readNmeaTrack})
+                       readers::readFreeBoxLog, readers::readGpsRecordBox, readers::readNmeaTrack,
+                       readers::readFreeGpsTs})
             n += r(f, *d);
         EXPECT_EQ(n, 0);
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
@@ -73,6 +75,9 @@ TEST(TimedTelemetry, LyingBoxesEndTheWalkAtOnce) {
     putBe32(lying, 0x7fffffff);  // a box far past the end
     lying += "moov";
     const std::string zeros(64 << 20, '\0');
+    std::string packets;  // a transport stream of null packets only
+    for (std::size_t i = 0; i < (64u << 20) / 188; ++i)
+        packets += std::string("\x47\x1f\xff\x10", 4) + std::string(184, '\xff');
     const std::string cases[] = {
         zeros,                                              // a card area never written
         ftyp + zeros,                                       // a size of zero after the first box
@@ -80,6 +85,7 @@ TEST(TimedTelemetry, LyingBoxesEndTheWalkAtOnce) {
         ftyp + box("moov", box("trak", box("mdia", box("minf", box("stbl", huge))))),
         ftyp + box("mdat", std::string(32 << 20, 'f')),     // no block in the first 20 MB: the scan gives up
         ftyp + box("moov", box("gps ", std::string(8, '\xff') + std::string(64, '\xff'))),
+        packets,                                            // no record in the first 20 MB: the packet walk gives up
     };
     for (const std::string& c : cases) EXPECT_LT(time(c), 0.5);
 }

@@ -20,6 +20,7 @@
 #include "ui/library/playback/dashboard_widgets.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/seek_slider_controller.h"
+#include "ui/controls/image_button.h"
 #include "ui/library/player/orvo_av_view.h"
 #include "ui/telemetry/gravity_graph_view.h"
 #include "ui/telemetry/map_controller.h"
@@ -65,7 +66,7 @@ private slots:
         window_->showMainWindow();
         QVERIFY(QTest::qWaitForWindowExposed(window_->mainWindow()));
         window_->catalogue().chooseFolder(card.string());
-        QCOMPARE(window_->catalogue().catalogue().rowCount(), 10);
+        QCOMPARE(window_->catalogue().catalogue().rowCount(), 11);
         QTRY_VERIFY_WITH_TIMEOUT(playback().dashboardWidgets().mapController->isPageReady(), 30000);
         playback().setAlertPresenter([](const QString& m, const QString& i) {
             QFAIL(qPrintable("alert: " + m + " " + i));
@@ -78,17 +79,22 @@ private slots:
         QTest::addColumn<QString>("clip");
         QTest::addColumn<bool>("pair");
         QTest::addColumn<bool>("hasG");
-        QTest::newRow("freeGPS") << "2026_1121_100000_F.MP4" << true << false;
-        QTest::newRow("free box log") << "20261121_100016_NF.mp4" << true << true;
-        QTest::newRow("GPS box") << "20261121100024A.MP4" << false << false;  // the player pairs F/R only
-        QTest::newRow("GPMF") << "GX011000.MP4" << false << true;
-        QTest::newRow("NMEA track") << "20261121_100040.mp4" << false << false;
+        QTest::addColumn<QString>("recorded");  // the date and time beside the picture
+        QTest::newRow("freeGPS") << "2026_1121_100000_F.MP4" << true << false << "2026-11-21 10:00:00";
+        QTest::newRow("free box log") << "20261121_100016_NF.mp4" << true << true << "2026-11-21 10:00:16";
+        // The rear is the file lettered B with the same time.
+        QTest::newRow("GPS box") << "20261121100024A.MP4" << true << false << "2026-11-21 10:00:24";
+        // A name without the time: the container's creation time.
+        QTest::newRow("GPMF") << "GX011000.MP4" << false << true << "2026-11-21 10:00:32";
+        QTest::newRow("NMEA track") << "20261121_100040.mp4" << false << false << "2026-11-21 10:00:40";
+        QTest::newRow("freeGPS TS") << "2026_1121_100056_F.TS" << false << false << "2026-11-21 10:00:56";
     }
 
     void dashboardShowsEachFamily() {
         QFETCH(QString, clip);
         QFETCH(bool, pair);
         QFETCH(bool, hasG);
+        QFETCH(QString, recorded);
         const MainWindowViews& v = window_->views();
         const int row = rowOf(clip.toStdString());
         QVERIFY(row >= 0);
@@ -97,8 +103,14 @@ private slots:
         OrvoAVView* big = playback().bigMovieView();
         QTRY_COMPARE_WITH_TIMEOUT(big->status(), OrvoAVViewStatusPrepared, kLoadMs);
         if (pair) QTRY_COMPARE_WITH_TIMEOUT(playback().smallMovieView()->status(), OrvoAVViewStatusPrepared, kLoadMs);
-        // The clip itself plays, whatever played before.
+        // The clip itself plays, whatever played before, and its partner beside it.
         QTRY_VERIFY_WITH_TIMEOUT(big->fileName().endsWith(clip), 10000);
+        if (pair) {
+            const std::string rear = ClipCatalogue::cameraPartnerPath(big->fileName().toStdString());
+            QCOMPARE(playback().smallMovieView()->fileName().toStdString(), rear);
+            QVERIFY(v.switchVideoButton->isEnabled());
+        }
+        QCOMPARE(v.fileDateTextField->text(), recorded);
         QTRY_VERIFY_WITH_TIMEOUT(playback().clipData().clipDataCount() == 80, 10000);
         QVERIFY(playback().clipData().gpsDataCount() > 0);
         QTRY_VERIFY_WITH_TIMEOUT(v.playTimeTextField->text().startsWith("00:02"), 10000);

@@ -150,8 +150,14 @@ private slots:
         QCOMPARE(previousClipRow(list, 0), -1);  // no wrap backwards
         QCOMPARE(previousClipRow(list, 4), 2);   // after a pair: that pair's front file
         QCOMPARE(previousClipRow(list, 9), -1);
+        // Other cameras' A/B letters after the recording time pair as F/R do.
+        const std::vector<std::string> lettered = {"/n/20261121100024A.MP4", "/n/20261121100024B.MP4", "/n/x_A.mp4"};
+        QCOMPARE(nextClipRow(lettered, 0), 2);
+        QCOMPARE(previousClipRow(lettered, 2), 0);
+        QCOMPARE(nextClipRow({"/n/x_A.mp4", "/n/x_B.mp4", "/n/y.mp4"}, 0), 1);  // no time: not a camera's letter
         // AVI clips never pair, whatever their names say.
         QCOMPARE(nextClipRow({"/c/D_F.avi", "/c/D_R.avi", "/c/E.avi"}, 0), 1);
+        QCOMPARE(previousClipRow({"/c/D_F.avi", "/c/D_R.avi", "/c/E.avi"}, 2), 0);  // but back over them by name
         QVERIFY(isMp4ClipPath("/x/a.MP4"));
         QVERIFY(!isMp4ClipPath("/x.mp4/a"));
         QVERIFY(!isMp4ClipPath("/x/a.mp4.tmp"));

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/library/trips/transport_stream_length.h"
 #include "core/util/regular_file.h"
 #include "core/util/unrecorded_space.h"
 #include "core/telemetry/mp4_boxes.h"
@@ -166,6 +167,8 @@ ContainerInfo inspectClipContainer(const std::string& path) {
     } else if (!std::memcmp(h + 4, "ftyp", 4) || !std::memcmp(h + 4, "mdat", 4) || !std::memcmp(h + 4, "moov", 4) ||
                !std::memcmp(h + 4, "free", 4) || !std::memcmp(h + 4, "wide", 4)) {
         info = inspectIsoBmff(fd, size);
+    } else {
+        info = inspectTransportStream(fd, size);
     }
     ::close(fd);
     return info;

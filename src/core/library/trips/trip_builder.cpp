@@ -11,31 +11,6 @@
 
 namespace tarvik {
 
-namespace {
-
-// Of a pair: the F. clip, or the A clip of cameras lettering theirs A and B.
-bool isFront(std::string_view name) {
-    if (name.find("F.") != std::string_view::npos) return true;
-    const std::size_t dot = name.rfind('.');
-    return name.find("R.") == std::string_view::npos && dot != std::string_view::npos && dot > 0 && name[dot - 1] == 'A';
-}
-
-// Cameras that name their two cameras A and B put the letter right after the
-// recording time (20261121083000A.MP4, 2026_1121_083000_B.MP4): only there is
-// it a camera's letter, and the partner then has the same time.
-std::string letterPartner(std::string_view path) {
-    const std::string_view name = ClipCatalogue::fileName(path);
-    const std::size_t dot = name.rfind('.');
-    if (dot == std::string_view::npos || dot < 2 || !recordingMomentFromName(name)) return {};
-    const char letter = name[dot - 1], before = name[dot - 2];
-    if ((letter != 'A' && letter != 'B') || !(before == '_' || (before >= '0' && before <= '9'))) return {};
-    std::string s(path);
-    s[path.size() - name.size() + dot - 1] = letter == 'A' ? 'B' : 'A';
-    return s;
-}
-
-}  // namespace
-
 std::optional<std::int64_t> clipStartFromName(std::string_view name) {
     const auto m = recordingMomentFromName(name);
     if (!m) return std::nullopt;
@@ -67,12 +42,11 @@ std::vector<TripClip> TripBuilder::pairUp(const std::vector<std::string>& clips)
         TripClip c;
         c.path = p;
         c.start = *start;
-        std::string partner = ClipCatalogue::partnerPath(p);
-        if (partner.empty()) partner = letterPartner(p);
+        const std::string partner = ClipCatalogue::cameraPartnerPath(p);
         if (!partner.empty() && partner != p && all.count(partner)) {
             taken.insert(partner);
             c.partner = partner;
-            if (!isFront(ClipCatalogue::fileName(p))) std::swap(c.path, c.partner);
+            if (!ClipCatalogue::isFrontOfPair(p)) std::swap(c.path, c.partner);
         }
         taken.insert(p);
         out.push_back(std::move(c));

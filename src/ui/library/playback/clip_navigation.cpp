@@ -9,7 +9,7 @@ namespace {
 
 bool isPartnerOf(const std::string& row, const std::string& other) {
     if (!isMp4ClipPath(row) || !isMp4ClipPath(other)) return false;
-    const std::string partner = ClipCatalogue::partnerPath(row);
+    const std::string partner = ClipCatalogue::cameraPartnerPath(row);
     return !partner.empty() && partner == other;
 }
 
@@ -39,6 +39,9 @@ int previousClipRow(const std::vector<std::string>& list, int selected) {
         std::string front = list[selected - 1];
         if (front.find("F.") == std::string::npos) front = replaceAll(front, "R.", "F.");
         if (front == list[selected - 2]) p = selected - 2;
+        // A lettered pair's B clip after its A clip.
+        else if (!ClipCatalogue::isFrontOfPair(list[selected - 1]) && isPartnerOf(list[selected - 1], list[selected - 2]))
+            p = selected - 2;
     }
     return p;
 }

@@ -16,6 +16,7 @@
 #include "core/library/clip_catalogue.h"
 #include "core/library/clip_file_check.h"
 #include "core/library/recording_time.h"
+#include "core/library/trips/clip_container.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "ui/controls/image_button.h"
@@ -180,7 +181,10 @@ void PlaybackController::playVideoWithIdx(int row) {
 
 void PlaybackController::showRecordingTime(const std::string& clip) {
     const auto name = ClipCatalogue::fileName(clip);
-    const std::string when = recordingTimeText(name);
+    std::string when = recordingTimeText(name);
+    // Cameras that put no time into their names have their container's.
+    if (when.empty())
+        if (const auto t = containerCreationTime(clip)) when = recordingTimeText(*t);
     v_.fileDateTextField->setText(when.empty() ? QFile::decodeName(QByteArray(name.data(), static_cast<int>(name.size())))
                                                : QString::fromStdString(when));
 }
