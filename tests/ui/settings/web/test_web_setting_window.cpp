@@ -222,10 +222,6 @@ private slots:
         QVERIFY(QTest::qWaitFor([&] { return w->webView()->url().fragment() == "recording"; }, 5000));
         QCOMPARE(received(w).size(), before);
 
-        const QString shot = TARVIK_BINARY_DIR "/screenshots/web_setting_window.png";
-        QDir().mkpath(QFileInfo(shot).path());
-        QVERIFY(w->grab().save(shot));
-
         // The page's date settings and its edited record, saved with Ctrl+S.
         js(w, R"(Dashcam["setdate:use"]("1"); Dashcam.setdate("2016/05/20"); Dashcam["setdate:hour"]("08");)"
               R"(Dashcam["setdate:min"]("05"); Dashcam["setdate:ampm"]("pm"); Dashcam.format(); cfgReply = "0aFF";)");
