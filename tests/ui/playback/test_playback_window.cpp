@@ -203,7 +203,7 @@ private slots:
         QVERIFY(v.playPauseButton->isEnabled() && v.switchVideoButton->isEnabled());
 
         // The time text advances with the large player; the first ticks bring
-        // up the map page. Paused there for a steady look at the dashboard.
+        // up the map page. Paused there for a steady dashboard.
         QWebEngineView* map = playback().dashboardWidgets().mapWebView;
         QVERIFY(map);
         QTRY_VERIFY_WITH_TIMEOUT(!map->isHidden() && v.mapCoverView->isHidden(), 3000);
@@ -227,11 +227,6 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(mapState(map).value("moves").toInt() > 0, 5000);
         QVERIFY(!map->isHidden());
 
-        QTest::qWait(500);
-        const QString shot = QString(TARVIK_BINARY_DIR) + "/playback_window.png";
-        QVERIFY(window_->mainWindow()->grab().save(shot));
-        QVERIFY(map->grab().save(QString(TARVIK_BINARY_DIR) + "/playback_map.png"));
-        qInfo("screenshots: %s", qPrintable(shot));
         playback().playVideo();
 
         // At the end the list moves on, past the rear file, to the two-stream AVI.
