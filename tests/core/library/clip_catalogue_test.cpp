@@ -161,12 +161,10 @@ TEST_F(TempCard, SwitchedPlayersTakeTheFrontRearPartner) {
 
     EXPECT_EQ(cat.takeBigVideoURL(0), f);  // not switched: always the row's own
     cat.setVideoSwitched(true);
-    EXPECT_EQ(cat.takeBigVideoURL(0), r);
-    EXPECT_EQ(cat.takeBigVideoURL(1), f);
-    EXPECT_EQ(cat.takeBigVideoURL(2), lone);  // neighbours are not its partner
-    EXPECT_EQ(cat.takeBigVideoURL(3), avi);   // only MP4 pairs
-    EXPECT_EQ(cat.takeBigVideoURL(-1), "");
-    EXPECT_EQ(cat.takeBigVideoURL(5), "");
+    // Neighbours are not a lone clip's partner; only MP4 pairs swap.
+    const std::vector<std::string> big = {"", r, f, lone, avi, "", ""};
+    for (int row = -1; row <= 5; ++row)
+        if (row != 4) EXPECT_EQ(cat.takeBigVideoURL(row), big[row + 1]) << row;
 }
 
 TEST_F(TempCard, PairSwapReplacesEveryOccurrence) {
@@ -178,10 +176,9 @@ TEST_F(TempCard, PairSwapReplacesEveryOccurrence) {
     ASSERT_EQ(cat.pathAt(0), f);
     EXPECT_EQ(cat.takeBigVideoURL(0), f);
 
-    EXPECT_EQ(ClipCatalogue::partnerPath("/a/x_F.mp4"), "/a/x_R.mp4");
-    EXPECT_EQ(ClipCatalogue::partnerPath("/a/x_R.mp4"), "/a/x_F.mp4");
-    EXPECT_EQ(ClipCatalogue::partnerPath("/F.d/x_R.mp4"), "/R.d/x_R.mp4");  // F. wins over R.
-    EXPECT_EQ(ClipCatalogue::partnerPath("/a/x.mp4"), "");
+    for (auto [clip, partner] : {std::pair{"/a/x_F.mp4", "/a/x_R.mp4"}, {"/a/x_R.mp4", "/a/x_F.mp4"},
+                                 {"/F.d/x_R.mp4", "/R.d/x_R.mp4"} /* F. wins over R. */, {"/a/x.mp4", ""}})
+        EXPECT_EQ(ClipCatalogue::partnerPath(clip), partner) << clip;
 }
 
 TEST(ClipUrl, FileUrlStringEscapesLikeAFileUrl) {

@@ -90,10 +90,8 @@ TEST(CardDetection, RegionAndVersionThresholds) {
     card.write("SETTING/setup.cfg", v);
     EXPECT_EQ(M420SettingManager::loadVersionSDPath(card.path()), "1.0.17ABCD");
 
-    EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion("1.0.17"), 17);
-    EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion("1.0.16"), 16);
-    EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion("1.0.beta"), 0);
-    EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion("2"), 2);
+    for (auto [version, number] : {std::pair{"1.0.17", 17}, {"1.0.16", 16}, {"1.0.beta", 0}, {"2", 2}})
+        EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion(version), number) << version;
     EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion(std::nullopt), 0);
 }
 

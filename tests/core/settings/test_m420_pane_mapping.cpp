@@ -29,10 +29,8 @@ M420SettingManager managerFor(std::int64_t type, int firmware = 17) {
 TEST(M420PaneTimeZones, OffsetsNamesAndTheIndexPastTheNameList) {
     ASSERT_EQ(gmtDescList().size(), 39u);
     ASSERT_EQ(timezoneNameList().size(), 32u);
-    EXPECT_EQ(gmtOffsetFromDesc("UTC+05:45"), 345);
-    EXPECT_EQ(gmtOffsetFromDesc("UTC-09:30"), -570);
-    EXPECT_EQ(gmtOffsetFromDesc("UTC-03:30"), -210);
-    EXPECT_EQ(gmtOffsetFromDesc("UTC"), 0);
+    for (auto [desc, minutes] : {std::pair{"UTC+05:45", 345}, {"UTC-09:30", -570}, {"UTC-03:30", -210}, {"UTC", 0}})
+        EXPECT_EQ(gmtOffsetFromDesc(desc), minutes) << desc;
     EXPECT_EQ(gmtHourList().front(), -720);
     EXPECT_EQ(gmtHourList().back(), 840);
 
