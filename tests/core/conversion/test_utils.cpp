@@ -1,5 +1,3 @@
-#include <sys/stat.h>
-
 #include "conversion_fixture.h"
 
 namespace tarvik::testing {
@@ -38,7 +36,7 @@ TEST_F(ConversionTest, CodecTagTypeFromHandlerOrBrand) {
     EXPECT_EQ(Utils::GetAviType(card / "missing.avi"), CodecTagType::Unknown);
 }
 
-TEST_F(ConversionTest, WorkingDirectoryAndFileHelpers) {
+TEST_F(ConversionTest, WorkingDirectoryIsMadeAndRemoved) {
     const std::string work = Utils::GetWorkingDirectoryPath(documents);
     EXPECT_EQ(work, (documents / "TarvikViewer").string());
     EXPECT_TRUE(fs::is_directory(work));  // Documents itself was missing too
@@ -49,16 +47,6 @@ TEST_F(ConversionTest, WorkingDirectoryAndFileHelpers) {
     EXPECT_FALSE(fs::exists(work));
     EXPECT_FALSE(Utils::RemoveDirectory(work));
     EXPECT_TRUE(fs::is_directory(Utils::GetWorkingDirectoryPath(documents)));  // made again on demand
-
-    fs::path tool = root / "tool";
-    std::ofstream(tool) << "#!/bin/sh\n";
-    EXPECT_TRUE(Utils::EnableFileExcutableMode(tool));
-    EXPECT_EQ(fs::status(tool).permissions() & fs::perms::mask, fs::perms::all);
-    EXPECT_FALSE(Utils::EnableFileExcutableMode((root / "none").string()));
-
-    EXPECT_EQ(Utils::removeFileExtensionFromFilePath("/a/b/clip_F.mp4"), "/a/b/clip_F");
-    EXPECT_EQ(Utils::removeFileExtensionFromFilePath("/a.b/clip"), "/a.b/clip");
-    EXPECT_EQ(Utils::removeFileExtensionFromFilePath(""), "");
 }
 
 TEST(FfmpegLocation, EnvironmentThenPath) {

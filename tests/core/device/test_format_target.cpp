@@ -34,17 +34,14 @@ TEST(FormatTarget, OnlyTheRootOfARemovableNonSystemMountPasses) {
     EXPECT_EQ(ok.refusal, FormatRefusal::None);
     EXPECT_EQ(ok.volume.source, "/dev/mmcblk0p1");
     EXPECT_EQ(ok.volume.fsType, "vfat");
-    EXPECT_EQ(checkFormatTarget("/media/u/CAM CARD/DCIM", e).refusal, FormatRefusal::NotMountRoot);
-    EXPECT_EQ(checkFormatTarget("/media/u/CAM CARD/DCIM/..", e).refusal, FormatRefusal::None);
-    EXPECT_EQ(checkFormatTarget("/media/u/CAM", e).refusal, FormatRefusal::NotMountRoot);
-    EXPECT_EQ(checkFormatTarget("", e).refusal, FormatRefusal::NotMountRoot);
-    EXPECT_EQ(checkFormatTarget("/", e).refusal, FormatRefusal::SystemVolume);
-    EXPECT_EQ(checkFormatTarget("/home", e).refusal, FormatRefusal::SystemVolume);
-    // The root device reached through another mount point is still the system.
-    EXPECT_EQ(checkFormatTarget("/media/u/rootbind", e).refusal, FormatRefusal::SystemVolume);
-    EXPECT_EQ(checkFormatTarget("/media/u/HDD", e).refusal, FormatRefusal::NotRemovable);
-    EXPECT_EQ(checkFormatTarget("/media/u/share", e).refusal, FormatRefusal::NotRemovable);
-    EXPECT_EQ(checkFormatTarget("/proc", e).refusal, FormatRefusal::NotRemovable);
+    using R = FormatRefusal;
+    for (auto [path, refusal] : std::initializer_list<std::pair<const char*, R>>{
+             {"/media/u/CAM CARD/DCIM", R::NotMountRoot}, {"/media/u/CAM CARD/DCIM/..", R::None},
+             {"/media/u/CAM", R::NotMountRoot}, {"", R::NotMountRoot}, {"/", R::SystemVolume},
+             {"/home", R::SystemVolume},
+             {"/media/u/rootbind", R::SystemVolume},  // the root device through another mount point
+             {"/media/u/HDD", R::NotRemovable}, {"/media/u/share", R::NotRemovable}, {"/proc", R::NotRemovable}})
+        EXPECT_EQ(checkFormatTarget(path, e).refusal, refusal) << path;
 }
 
 TEST(FormatTarget, HomeOnTheCardOrAMissingSysfsRuleRefuses) {
@@ -70,11 +67,9 @@ TEST(FormatTarget, MountLookupsMatchWholeComponents) {
 }
 
 TEST(FormatTarget, PlatformDefaultNamesAreRefused) {
-    EXPECT_FALSE(isUsableVolumeName("Untitled"));
-    EXPECT_FALSE(isUsableVolumeName("Untitled 1"));
-    EXPECT_TRUE(isUsableVolumeName("untitled"));
-    EXPECT_TRUE(isUsableVolumeName("CAM Untitled"));
-    EXPECT_TRUE(isUsableVolumeName(""));
+    for (auto [name, usable] : {std::pair{"Untitled", false}, {"Untitled 1", false}, {"untitled", true},
+                                {"CAM Untitled", true}, {"", true}})
+        EXPECT_EQ(isUsableVolumeName(name), usable) << name;
 }
 
 TEST(FormatTarget, RunningSystemRefusesItsOwnRootAndHome) {

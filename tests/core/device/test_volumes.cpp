@@ -42,19 +42,12 @@ TEST(Volumes, MountInfoParsing) {
         "garbage line\n"
         "40 29 8:17 / /mnt/nosep rw 8:17 vfat /dev/sdb1 rw\n"
         "41 29 0:50 / /net rw - nfs4 srv:/x rw";  // no final line end
-    auto e = parseMountInfo(text);
-    ASSERT_EQ(e.size(), 4u);
-    EXPECT_EQ(e[0].fsType, "proc");
-    EXPECT_EQ(e[1].mountPoint, "/");
-    EXPECT_EQ(e[2].mountPoint, "/media/u/CAM CARD");
-    EXPECT_EQ(e[2].major, 179u);
-    EXPECT_EQ(e[2].minor, 1u);
-    EXPECT_EQ(e[2].fsType, "vfat");
-    EXPECT_EQ(e[2].source, "/dev/mmcblk0p1");
-    EXPECT_EQ(e[3].fsType, "nfs4");
-    EXPECT_TRUE(isPseudoOrNetworkFileSystem("proc"));
-    EXPECT_TRUE(isPseudoOrNetworkFileSystem("nfs4"));
-    EXPECT_FALSE(isPseudoOrNetworkFileSystem("vfat"));
+    std::string parsed;
+    for (const MountEntry& m : parseMountInfo(text))
+        parsed += std::to_string(m.major) + ":" + std::to_string(m.minor) + " " + m.mountPoint + " " + m.fsType + " " +
+                  m.source + (isPseudoOrNetworkFileSystem(m.fsType) ? " (not a volume)" : "") + "\n";
+    EXPECT_EQ(parsed, "0:21 /proc proc proc (not a volume)\n8:1 / ext4 /dev/sda1\n"
+                      "179:1 /media/u/CAM CARD vfat /dev/mmcblk0p1\n0:50 /net nfs4 srv:/x (not a volume)\n");
     EXPECT_FALSE(isPseudoOrNetworkFileSystem("exfat"));
     EXPECT_TRUE(parseMountInfo("").empty());
     EXPECT_TRUE(parseMountInfo(std::string(100000, '-')).empty());

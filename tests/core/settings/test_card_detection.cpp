@@ -90,10 +90,8 @@ TEST(CardDetection, RegionAndVersionThresholds) {
     card.write("SETTING/setup.cfg", v);
     EXPECT_EQ(M420SettingManager::loadVersionSDPath(card.path()), "1.0.17ABCD");
 
-    EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion("1.0.17"), 17);
-    EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion("1.0.16"), 16);
-    EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion("1.0.beta"), 0);
-    EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion("2"), 2);
+    for (auto [version, number] : {std::pair{"1.0.17", 17}, {"1.0.16", 16}, {"1.0.beta", 0}, {"2", 2}})
+        EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion(version), number) << version;
     EXPECT_EQ(M420SettingManager::firmwareNumberFromVersion(std::nullopt), 0);
 }
 
@@ -139,21 +137,18 @@ TEST(CardDetection, FirstRecognisedVolumeWinsAndIdentityIsStored) {
     M420SettingManager m;
     m.setSettingDirPath("/chosen/before");
     m.loadVersionInfo();
-    EXPECT_EQ(m.settingDirPath(), (volumes.root() / "b_card").string());
-    EXPECT_EQ(m.sdcard_url(), m.settingDirPath());
-    EXPECT_EQ(m.modelType(), m420model::Q810);
-    EXPECT_EQ(m.localID(), 3);
-    EXPECT_EQ(m.version(), "1.0.17");
-    EXPECT_EQ(m.firmwareVersionInt(), 17);
+    auto identity = [&m] {
+        return m.settingDirPath() + "|" + m.sdcard_url() + "|" + std::to_string(m.modelType()) + "|" +
+               std::to_string(m.localID()) + "|" + m.version() + "|" + std::to_string(m.firmwareVersionInt());
+    };
+    const std::string b = (volumes.root() / "b_card").string();
+    EXPECT_EQ(identity(), b + "|" + b + "|3|3|1.0.17|17");
     EXPECT_EQ(m.getSaveDataSize(), 504);
 
-    // The cards go away: nothing found, identity cleared.
+    // The cards go away: nothing found, identity cleared; an unknown card
+    // leaves the last region.
     fs::remove_all(volumes.file("b_card"));
     fs::remove_all(volumes.file("c_card"));
     m.loadVersionInfo();
-    EXPECT_EQ(m.settingDirPath(), "");
-    EXPECT_EQ(m.sdcard_url(), "");
-    EXPECT_EQ(m.modelType(), -1);
-    EXPECT_EQ(m.firmwareVersionInt(), 0);
-    EXPECT_EQ(m.localID(), 3);  // an unknown card leaves the last region
+    EXPECT_EQ(identity(), "||-1|3||0");
 }

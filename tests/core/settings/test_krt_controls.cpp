@@ -34,51 +34,31 @@ struct CardScope {
 
 // The values a card shows as its pane opens and what OK writes are checked in
 // the pane's own tests; these are the edges around them.
-TEST(KrtControls, ReadingTolerantValues) {
-    // Cut-off voltage goes by whole tenths of a volt.
-    EXPECT_EQ(readIndex(C::PowerOffVoltage, "0"), 0);
-    EXPECT_EQ(readIndex(C::PowerOffVoltage, "99"), 0);
-    EXPECT_EQ(readIndex(C::PowerOffVoltage, "12299"), 3);
-    EXPECT_EQ(readIndex(C::PowerOffVoltage, "11700"), 2);
-    EXPECT_EQ(readIndex(C::PowerOffVoltage, "abc"), 0);
-    // Time zones: whole hours only; hours the camera lacks fall to Pacific.
-    EXPECT_EQ(readIndex(C::TimeZone, "-10.000000"), 0);
-    EXPECT_EQ(readIndex(C::TimeZone, "-4.000000"), 6);
-    EXPECT_EQ(readIndex(C::TimeZone, "0.000000"), 7);
-    EXPECT_EQ(readIndex(C::TimeZone, "1"), 8);
-    EXPECT_EQ(readIndex(C::TimeZone, "5"), 2);
-    EXPECT_EQ(readIndex(C::TimeZone, "8.000000"), 9);
-    EXPECT_EQ(readIndex(C::TimeZone, "10.000000"), 11);
-    EXPECT_EQ(readIndex(C::TimeZone, "11"), 2);
-    EXPECT_EQ(readIndex(C::TimeZone, "-11"), 2);
-    EXPECT_EQ(readIndex(C::TimeZone, "99999999999999"), 2);
-    // Sliders: impact accepts 2-4, the others 1, 3 and 5.
-    EXPECT_EQ(readIndex(C::ImpactSensitivity, "4"), 4);
-    EXPECT_EQ(readIndex(C::ImpactSensitivity, "5"), 3);
-    EXPECT_EQ(readIndex(C::VoiceVolume, "5"), 5);
-    EXPECT_EQ(readIndex(C::MotionSensitivity, "1"), 1);
-    EXPECT_EQ(readIndex(C::MotionSensitivity, "4"), 3);
-    // On/off groups differ in what counts as on.
-    EXPECT_EQ(readIndex(C::ParkMode, "2"), 1);
-    EXPECT_EQ(readIndex(C::SoundRecording, "2"), 0);
-    EXPECT_EQ(readIndex(C::VoiceGuidance, "-1"), 0);
-    EXPECT_EQ(readIndex(C::SpeedUnit, "3"), 0);
-    EXPECT_EQ(readIndex(C::Language, "FR"), 0);
-}
+TEST(KrtControls, ReadingTolerantValuesAndWritingThem) {
+    struct Read { C control; const char* value; int index; };
+    for (const Read& r : std::initializer_list<Read>{
+             // Cut-off voltage goes by whole tenths of a volt.
+             {C::PowerOffVoltage, "0", 0}, {C::PowerOffVoltage, "99", 0}, {C::PowerOffVoltage, "12299", 3},
+             {C::PowerOffVoltage, "11700", 2}, {C::PowerOffVoltage, "abc", 0},
+             // Time zones: whole hours only; hours the camera lacks fall to Pacific.
+             {C::TimeZone, "-10.000000", 0}, {C::TimeZone, "-4.000000", 6}, {C::TimeZone, "0.000000", 7},
+             {C::TimeZone, "1", 8}, {C::TimeZone, "5", 2}, {C::TimeZone, "8.000000", 9}, {C::TimeZone, "10.000000", 11},
+             {C::TimeZone, "11", 2}, {C::TimeZone, "-11", 2}, {C::TimeZone, "99999999999999", 2},
+             // Sliders: impact accepts 2-4, the others 1, 3 and 5.
+             {C::ImpactSensitivity, "4", 4}, {C::ImpactSensitivity, "5", 3}, {C::VoiceVolume, "5", 5},
+             {C::MotionSensitivity, "1", 1}, {C::MotionSensitivity, "4", 3},
+             // On/off groups differ in what counts as on.
+             {C::ParkMode, "2", 1}, {C::SoundRecording, "2", 0}, {C::VoiceGuidance, "-1", 0}, {C::SpeedUnit, "3", 0},
+             {C::Language, "FR", 0}})
+        EXPECT_EQ(readIndex(r.control, r.value), r.index) << r.value;
 
-TEST(KrtControls, WritingValues) {
-    EXPECT_EQ(writeValue(C::TimeZone, 0), "-10.000000");
-    EXPECT_EQ(writeValue(C::TimeZone, 7), "0.000000");
-    EXPECT_EQ(writeValue(C::TimeZone, 12), "-8.000000");
-    EXPECT_EQ(writeValue(C::TimeZone, -1), "-8.000000");
-    EXPECT_EQ(writeValue(C::PowerOffVoltage, 0), "0");
-    EXPECT_EQ(writeValue(C::PowerOffVoltage, 1), "11800");
-    EXPECT_EQ(writeValue(C::PowerOffVoltage, 3), "12200");
-    EXPECT_EQ(writeValue(C::PowerOffVoltage, 7), "12000");
-    EXPECT_EQ(writeValue(C::SpeedUnit, 0), "1");
-    EXPECT_EQ(writeValue(C::ParkMode, 1), "0");
-    EXPECT_EQ(writeValue(C::Language, 1), "fr");
-    EXPECT_EQ(writeValue(C::Language, 0), "us");
+    struct Write { C control; int index; const char* value; };
+    for (const Write& w : std::initializer_list<Write>{
+             {C::TimeZone, 0, "-10.000000"}, {C::TimeZone, 7, "0.000000"}, {C::TimeZone, 12, "-8.000000"},
+             {C::TimeZone, -1, "-8.000000"}, {C::PowerOffVoltage, 0, "0"}, {C::PowerOffVoltage, 1, "11800"},
+             {C::PowerOffVoltage, 3, "12200"}, {C::PowerOffVoltage, 7, "12000"}, {C::SpeedUnit, 0, "1"},
+             {C::ParkMode, 1, "0"}, {C::Language, 1, "fr"}, {C::Language, 0, "us"}})
+        EXPECT_EQ(writeValue(w.control, w.index), w.value) << w.index;
     EXPECT_EQ(timeZoneKeys().size(), std::size_t(kTimeZoneCount));
     // Every item reads back as itself, Adelaide's half hour included.
     for (int item = 0; item < kTimeZoneCount; ++item)

@@ -29,10 +29,8 @@ M420SettingManager managerFor(std::int64_t type, int firmware = 17) {
 TEST(M420PaneTimeZones, OffsetsNamesAndTheIndexPastTheNameList) {
     ASSERT_EQ(gmtDescList().size(), 39u);
     ASSERT_EQ(timezoneNameList().size(), 32u);
-    EXPECT_EQ(gmtOffsetFromDesc("UTC+05:45"), 345);
-    EXPECT_EQ(gmtOffsetFromDesc("UTC-09:30"), -570);
-    EXPECT_EQ(gmtOffsetFromDesc("UTC-03:30"), -210);
-    EXPECT_EQ(gmtOffsetFromDesc("UTC"), 0);
+    for (auto [desc, minutes] : {std::pair{"UTC+05:45", 345}, {"UTC-09:30", -570}, {"UTC-03:30", -210}, {"UTC", 0}})
+        EXPECT_EQ(gmtOffsetFromDesc(desc), minutes) << desc;
     EXPECT_EQ(gmtHourList().front(), -720);
     EXPECT_EQ(gmtHourList().back(), 840);
 
@@ -85,20 +83,17 @@ TEST(M420PaneFeatures, TheRecordLengthDecidesWhatAGroupShows) {
 TEST(M420PaneMapping, EdgePositions) {
     const PaneFeatures m420 = paneFeatures(m420model::M420, 60);
     const PaneFeatures m640 = paneFeatures(m420model::M640, 79);
-    EXPECT_EQ(recordValue(Control::FrontBrightness, m420, 0), 2);
-    EXPECT_EQ(recordValue(Control::FrontBrightness, m420, 2), 0);
-    EXPECT_EQ(recordValue(Control::ParkingTimeLimit, m640, 7), 36);
-    EXPECT_EQ(recordValue(Control::ParkingTimeLimit, m420, 7), 48);  // no 36-hour step
-    EXPECT_EQ(recordValue(Control::ParkingTimeLimit, m420, 8), std::nullopt);
-    EXPECT_EQ(recordValue(Control::ParkingMotionSensitivity, m420, 9), 3);
-    EXPECT_EQ(controlPosition(Control::ParkingMotionSensitivity, m420, 4), kNoPosition);
-    EXPECT_EQ(recordValue(Control::SecurityLed, m420, 3), 0);
-    EXPECT_EQ(recordValue(Control::SecurityLed, m420, 4), std::nullopt);
-    EXPECT_EQ(recordValue(Control::RearResolution, m420, 2), std::nullopt);
-    EXPECT_EQ(recordValue(Control::SpeedUnit, m420, 1), 1);
-    EXPECT_EQ(recordValue(Control::ParkingMode, m420, 2), std::nullopt);
     const PaneFeatures m670 = paneFeatures(m420model::M670, 81);
-    EXPECT_EQ(recordValue(Control::ParkingMode, m670, 1), 2);
+    struct Edge { Control c; const PaneFeatures& f; int position; std::optional<int> value; };
+    for (const Edge& e : std::initializer_list<Edge>{
+             {Control::FrontBrightness, m420, 0, 2}, {Control::FrontBrightness, m420, 2, 0},
+             {Control::ParkingTimeLimit, m640, 7, 36}, {Control::ParkingTimeLimit, m420, 7, 48},  // no 36-hour step
+             {Control::ParkingTimeLimit, m420, 8, std::nullopt}, {Control::ParkingMotionSensitivity, m420, 9, 3},
+             {Control::SecurityLed, m420, 3, 0}, {Control::SecurityLed, m420, 4, std::nullopt},
+             {Control::RearResolution, m420, 2, std::nullopt}, {Control::SpeedUnit, m420, 1, 1},
+             {Control::ParkingMode, m420, 2, std::nullopt}, {Control::ParkingMode, m670, 1, 2}})
+        EXPECT_EQ(recordValue(e.c, e.f, e.position), e.value) << controlSpec(e.c).name << " " << e.position;
+    EXPECT_EQ(controlPosition(Control::ParkingMotionSensitivity, m420, 4), kNoPosition);
     EXPECT_EQ(controlPosition(Control::ParkingMode, m670, 0), 2);
     EXPECT_EQ(controlPosition(Control::ParkingTimeLimit, m640, 36), 7);
     EXPECT_EQ(controlPosition(Control::ParkingTimeLimit, m420, 36), kNoPosition);

@@ -50,10 +50,8 @@ TEST(ClipData, SentinelsAndRanges) {
 }
 
 TEST(ClipData, NmeaCoordinates) {
-    EXPECT_EQ(OrvoClipData::cal_string(""), 0u);
-    EXPECT_EQ(OrvoClipData::cal_string("4807"), 0u);   // no point
-    EXPECT_EQ(OrvoClipData::cal_string(".5"), 0u);     // point at 0
-    EXPECT_EQ(OrvoClipData::cal_string("1.5"), 0u);    // point at 1
+    for (const char* unusable : {"", "4807" /* no point */, ".5" /* point at 0 */, "1.5" /* point at 1 */})
+        EXPECT_EQ(OrvoClipData::cal_string(unusable), 0u) << unusable;
     EXPECT_NEAR(OrvoClipData::cal_string("4807.038") / 1e6, 48.1173, 1e-5);
     EXPECT_NEAR(OrvoClipData::cal_string("01131.000") / 1e6, 11.516667, 1e-5);
     EXPECT_NEAR(OrvoClipData::cal_string("12658.9800") / 1e6, 126.983, 1e-5);

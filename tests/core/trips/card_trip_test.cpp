@@ -134,21 +134,16 @@ TEST(CardTrips, FiveMinutePairsAreOneTrip) {
         at = gpx.find(buf, at);
         ASSERT_NE(at, std::string::npos) << buf;
     }
-    // Every minute of the drive has its bump at 22 s and its hard braking from 30 s on.
+    // The events of a minute (a bump at 22 s, hard braking from 30 s) and
+    // stepping between them are the trip window's; here, that every minute has them.
     for (const TripClip& c : t.clips) {
         loadClipTelemetry(c.path, *data);
         const auto events = findDrivingEvents(*data);
         ASSERT_EQ(events.size(), 2u) << c.path;
         EXPECT_EQ(events[0].kind, DrivingEventKind::GPeak);
-        EXPECT_GE(events[0].seconds, 22.0);
-        EXPECT_LE(events[0].seconds, 22.4);
         EXPECT_EQ(events[1].kind, DrivingEventKind::HardBraking);
-        EXPECT_NEAR(events[1].seconds, 30.0, 1.0);
-        EXPECT_EQ(nextDrivingEvent(events, 0), 0);
-        EXPECT_EQ(nextDrivingEvent(events, events[0].seconds), 1);
-        EXPECT_EQ(nextDrivingEvent(events, 59), -1);
-        EXPECT_EQ(previousDrivingEvent(events, events[1].seconds), 0);
         EXPECT_EQ(previousDrivingEvent(events, 10), -1);
+        EXPECT_EQ(nextDrivingEvent(events, 59), -1);
     }
     EXPECT_EQ(std::count(route.csvRows.begin(), route.csvRows.end(), '\n'), 3000);
     EXPECT_EQ(exportTripRoute(route, "gif", "x"), "");

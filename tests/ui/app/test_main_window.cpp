@@ -168,23 +168,6 @@ private slots:
         QCOMPARE(unit.count(), 2);
     }
 
-    void languageMenuRelabelsTheWindow() {
-        QSettingsStore::shared().setString("OrvoViewerLanguage", "en");
-        QSettingsStore::shared().setStringList("AppleLanguages", {"en"});
-        MainWindowController c;
-        PreferencesMenuController& menus = c.preferencesMenu();
-        menus.buildMenus();
-        QTest::qWait(0);
-        const QString english = menus.languageMenu->title();
-        QSignalSpy lang(&NotificationCenter::shared(), &NotificationCenter::refreshLanguage);
-        menus.languageFrenchMenuItem->trigger();
-        QCOMPARE(lang.count(), 1);
-        QVERIFY(menus.languageFrenchMenuItem->isChecked());
-        QVERIFY(!menus.languageEnglishMenuItem->isChecked());
-        QTRY_VERIFY(menus.languageMenu->title() != english);
-        QVERIFY(c.views().fileListAllButton_OEM->text() != QString("파일_전체"));
-    }
-
     void aClickOnTheVolumeGrooveJumpsThere() {
         MainWindowController c;
         c.showMainWindow();
@@ -196,8 +179,8 @@ private slots:
     }
 
     void frenchAndJapaneseReachEveryTextAndQtsDialogs() {
-        // Screenshots of the window and of the save panel in both languages,
-        // for a look; what a look would check is asserted too.
+        // What a look at the window and the save panel in both languages
+        // would check.
         QSettingsStore::shared().setString("OrvoViewerLanguage", "en");
         QSettingsStore::shared().setStringList("AppleLanguages", {"en"});
         MainWindowController c;
@@ -206,10 +189,12 @@ private slots:
         c.catalogue().chooseFolder(card_.string());
         PreferencesMenuController& menus = c.preferencesMenu();
         QTRY_VERIFY(menus.languageMenu);
-        for (const auto& [item, code] : {std::pair{menus.languageFrenchMenuItem, "fr"}, {menus.languageJapaneseMenuItem, "ja"}}) {
+        for (QAction* item : {menus.languageFrenchMenuItem, menus.languageJapaneseMenuItem}) {
             const QString before = c.views().playPauseButton->toolTip();
             item->trigger();
             QTRY_VERIFY(c.views().playPauseButton->toolTip() != before);
+            QVERIFY(item->isChecked() && !menus.languageEnglishMenuItem->isChecked());
+            QVERIFY(c.views().fileListAllButton_OEM->text() != QString("파일_전체"));
             for (ImageButton* b : c.mainWindow()->findChildren<ImageButton*>()) {
                 if (!b->isVisibleTo(c.mainWindow())) continue;
                 QVERIFY2(!b->toolTip().isEmpty(), qPrintable(b->objectName()));
@@ -218,16 +203,12 @@ private slots:
                          qPrintable(b->objectName() + ": " + b->toolTip()));
             }
             QVERIFY(!c.views().goHomepageButton->isVisibleTo(c.mainWindow()));
-            QTest::qWait(200);
-            const QString dir = QString(TARVIK_BINARY_DIR) + "/";
-            QVERIFY(c.mainWindow()->grab().save(dir + "main_window_" + code + ".png"));
 
             QString fileNameLabel;
             QTimer::singleShot(500, [&] {
                 auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
                 if (!panel) return;
                 if (auto* label = panel->findChild<QLabel*>("fileNameLabel")) fileNameLabel = label->text();
-                panel->grab().save(dir + "save_dialog_" + code + ".png");
                 panel->reject();
             });
             QVERIFY(QtSaveDialogs().savePath(c.mainWindow(), "20261121_083200.avi").isEmpty());

@@ -44,20 +44,15 @@ private slots:
         QCOMPARE(c.views().fileListTableView->model()->rowCount(), 0);
     }
 
-    void recognisedCardShowsItsModelAndClips() {
-        mountCard("SDCARD", cardgen::demoModelType());
+    // A recognised card shows its model and clips; unmounted, the list empties.
+    void recognisedCardUntilItIsUnmounted() {
+        fs::path card = mountCard("SDCARD", cardgen::demoModelType());
         MainWindowController c;
         QVERIFY(c.updateModelInfo());
         QVERIFY(c.views().settingsButton->isEnabled());
         QVERIFY(!c.views().modelTextField->text().isEmpty());
         QVERIFY(c.views().modelTextField->text() != tr_k("unknown"));
         QCOMPARE(c.views().fileListTableView->model()->rowCount(), 2);
-    }
-
-    void unmountingTheCardEmptiesTheList() {
-        fs::path card = mountCard("SDCARD", cardgen::demoModelType());
-        MainWindowController c;
-        QVERIFY(c.updateModelInfo());
         fs::remove_all(card);
         c.volumeMountHandler();
         QCOMPARE(c.views().fileListTableView->model()->rowCount(), 0);

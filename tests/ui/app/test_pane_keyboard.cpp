@@ -141,11 +141,21 @@ private slots:
     }
 
     // A card the viewer does not know: Return in the card picker, Return in
-    // the model picker (a model chosen with the arrow keys), then the pane.
+    // the model picker (a model chosen with the arrow keys), then the pane,
+    // cancelled. Q810 UK loads with local ID 3 (and its time zone), Q810 with 0.
+    void pickersConfirmWithReturn_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("localID");
+        QTest::newRow("Q810 UK") << 4 << 3;
+        QTest::newRow("Q810") << 3 << 0;
+    }
     void pickersConfirmWithReturn() {
+        QFETCH(int, type);
+        QFETCH(int, localID);
         const fs::path card = volumes_->mount("BLANK", -1);
         const QByteArray before = cardHash(card);
         MainWindowController c;
+        M420SettingManager::SharedM420SettingManager().setLocalID(-1);
         bool paneShown = false;
         ModalScript script({
             [](QWidget*, OrvoViewController* p) {
@@ -155,12 +165,12 @@ private slots:
                 QCOMPARE(picker->comboBox()->currentText(), QString("BLANK"));
                 pressOn(picker->comboBox(), Qt::Key_Return);
             },
-            [](QWidget*, OrvoViewController* p) {
+            [type](QWidget*, OrvoViewController* p) {
                 auto guard = cancelIfFailed(p);
                 auto* picker = qobject_cast<SelectDeviceViewController*>(p);
                 QVERIFY(picker);
-                pressOn(picker->comboBox(), Qt::Key_Down);
-                QCOMPARE(picker->comboBox()->currentIndex(), 1);
+                for (int i = 0; i < type; ++i) pressOn(picker->comboBox(), Qt::Key_Down);
+                QCOMPARE(picker->comboBox()->currentIndex(), type);
                 pressOn(picker->comboBox(), Qt::Key_Return);
             },
             [&](QWidget*, OrvoViewController* p) {
@@ -174,7 +184,10 @@ private slots:
         c.card().settingButtonTouched();
         QVERIFY(script.done());
         QVERIFY(paneShown);
-        QCOMPARE(M420SettingManager::SharedM420SettingManager().modelType(), 1);
+        const M420SettingManager& m = M420SettingManager::SharedM420SettingManager();
+        QCOMPARE(m.modelType(), type);
+        QCOMPARE(m.localID(), localID);
+        QCOMPARE(m.tz_key(), localID == 3 ? std::string("GMT Standard Time") : "Pacific Standard Time");
         QCOMPARE(cardHash(card), before);
     }
 

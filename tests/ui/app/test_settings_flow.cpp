@@ -1,9 +1,8 @@
-// From the settings button to the pane: card picker, model picker with its
-// local-ID rules, the branch by model type, and what cancelling forgets.
+// From the settings button to the pane: the branch by model type, and what
+// cancelling the model picker forgets. (Both pickers confirmed, and the
+// local-ID rules, are the panes' keyboard test's.)
 #include <QApplication>
-#include <QComboBox>
 #include <QLabel>
-#include <QMessageBox>
 #include <QTest>
 #include <optional>
 
@@ -35,50 +34,6 @@ private slots:
         M420SettingManager::ChagneM420SettingManager(std::make_unique<M420SettingManager>());
     }
     void cleanup() { volumes_.reset(); }
-
-    // An unknown card: card picker, then the model picker; Q810 UK loads
-    // with local ID 3 and Q810 with 0, and the pane opens. Cancel writes nothing.
-    void unknownCardGoesThroughBothPickers_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("localID");
-        QTest::newRow("Q810 UK") << 4 << 3;
-        QTest::newRow("Q810") << 3 << 0;
-    }
-    void unknownCardGoesThroughBothPickers() {
-        QFETCH(int, type);
-        QFETCH(int, localID);
-        const fs::path card = volumes_->mount("BLANK", -1);
-        MainWindowController c;
-        manager().setLocalID(-1);
-        bool paneOpened = false;
-        ModalScript script({
-            [](QWidget*, OrvoViewController* p) {
-                auto* picker = qobject_cast<SelectFlashMemoryViewController*>(p);
-                QVERIFY(picker);
-                QCOMPARE(picker->comboBox()->currentText(), QString("BLANK"));
-                picker->okButtonTouched();
-            },
-            [type](QWidget*, OrvoViewController* p) {
-                auto* picker = qobject_cast<SelectDeviceViewController*>(p);
-                QVERIFY(picker);
-                picker->comboBox()->setCurrentIndex(type);
-                picker->okButtonTouched();
-            },
-            [&](QWidget*, OrvoViewController* p) {
-                auto* pane = qobject_cast<M420SettingViewController*>(p);
-                QVERIFY(pane);
-                paneOpened = true;
-                pane->cancelButtonTouched();
-            },
-        });
-        c.card().settingButtonTouched();
-        QVERIFY(script.done());
-        QVERIFY(paneOpened);
-        QCOMPARE(manager().modelType(), type);
-        QCOMPARE(manager().localID(), localID);
-        QCOMPARE(manager().tz_key(), localID == 3 ? std::string("GMT Standard Time") : "Pacific Standard Time");
-        QVERIFY(!fs::exists(card / "SETTING"));
-    }
 
     void cancellingTheModelPickerForgetsTheCard() {
         volumes_->mount("BLANK", -1);

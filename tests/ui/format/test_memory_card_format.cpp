@@ -93,11 +93,6 @@ class TestMemoryCardFormat : public QObject {
     QStringList formats() { return blockProperty("com.tarvik.Test", "Formats").toStringList(); }
     QString marker() const { return dir_.filePath("format-started"); }
 
-    static void shoot(QWidget* w, const char* name) {
-        QDir().mkpath(TARVIK_BINARY_DIR "/screenshots/format");
-        QVERIFY(w->grab().save(QStringLiteral(TARVIK_BINARY_DIR "/screenshots/format/%1.png").arg(name)));
-    }
-
 private slots:
     void initTestCase() {
         bus_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
@@ -143,7 +138,6 @@ private slots:
         QVERIFY(no && yes);
         QTRY_VERIFY(question->isVisible());
         QVERIFY(no->mapTo(question, QPoint()).x() < yes->mapTo(question, QPoint()).x());
-        shoot(question, "confirmation");
         QCOMPARE(formats(), QStringList());
 
         yes->click();
@@ -157,7 +151,6 @@ private slots:
         QCOMPARE(flow.progressIndic()->size(), QSize(400, 20));
         QCOMPARE(alert->informativeText(), tr_k("포맷 중 입니다.\r\n잠시만 기다려 주십시오."));
         QTest::qWait(50);
-        shoot(alert, "progress");
         QTest::keyClick(alert, Qt::Key_Escape);  // no way out while erasing
         alert->close();
         QVERIFY(alert->isVisible() && finished.isEmpty());
@@ -171,7 +164,6 @@ private slots:
         QCOMPARE(formats(), QStringList{"/dev/mmcblk9p1|exfat|DASHCAM"});
         QVERIFY(blockProperty("org.freedesktop.UDisks2.Filesystem", "MountPoints").isValid());
         QCOMPARE(UDisks2CardFormatter().inspect(environment().mounts[1]).has_value(), true);  // mounted again
-        shoot(alert, "result");
         ok->click();
         QTRY_VERIFY(!flow.formattingAlert());
     }
@@ -243,7 +235,6 @@ private slots:
         QVERIFY(!flow.progressIndic());
         if (label.startsWith("Untitled")) {
             QTRY_VERIFY(alert->isVisible());
-            shoot(alert, "refused");
         }
         buttonTitled(alert, "OK")->click();
         QTRY_VERIFY(!flow.formattingAlert());
@@ -274,7 +265,6 @@ private slots:
         QCOMPARE(watch.textWhenEnabled, said);  // the text was in place before the button could close it
         QCOMPARE(formats(), QStringList());
         QVERIFY(UDisks2CardFormatter().inspect(environment().mounts[1]).has_value());  // mounted again
-        shoot(flow.formattingAlert(), "failure");
     }
 
     // A card some program holds is not erased, and the alert says why.

@@ -1,11 +1,11 @@
 // The modal pane window: centring over the parent, the modal result, Escape
-// reaching the pane instead of closing the window, key forwarding, and the
-// language actions.
+// reaching the pane instead of closing the window (the panes' keyboard test
+// cannot tell a rejected window from a cancelled pane), and the language
+// actions a parent lacks.
 
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -80,15 +80,6 @@ private slots:
         QVERIFY(!window.isVisible());
         // The view is handed back to its pane and can be shown again.
         QCOMPARE(pane.view()->parentWidget(), nullptr);
-
-        SettingWindow titled;
-        bool titledFrameless = true;
-        QTimer::singleShot(50, this, [&] {
-            titledFrameless = titled.windowFlags().testFlag(Qt::FramelessWindowHint);
-            pane.stopModalWithCode(0);
-        });
-        QCOMPARE(titled.showModalWindow(&parent, pane.view(), &pane, true), 0);
-        QVERIFY(!titledFrameless);
     }
 
     void escapeCancelsThePaneNotTheWindow() {
@@ -132,11 +123,7 @@ private slots:
         QSignalSpy posted(&NotificationCenter::shared(), &NotificationCenter::refreshLanguage);
 
         window.languageChange("en");
-        QCOMPARE(posted.count(), 0);
-        window.languageChange("ja");
-        QCOMPARE(posted.count(), 1);
-        QCOMPARE(store.string("OrvoViewerLanguage"), std::optional<std::string>("ja"));
-        QCOMPARE(store.stringList("AppleLanguages"), std::optional<std::vector<std::string>>({"ja"}));
+        QCOMPARE(posted.count(), 0);  // the same language announces nothing
 
         // The menu actions tell the parent window first, then change.
         ParentWindow parent;
@@ -149,20 +136,8 @@ private slots:
         window.showModalWindow(&parent, pane.view(), &pane, false);
         QCOMPARE(parent.calls, QStringList{"fr"});
         QCOMPARE(store.string("OrvoViewerLanguage"), std::optional<std::string>("pt"));
-        QCOMPARE(posted.count(), 3);
-    }
-
-    void markRadioChecksOneItemOfItsMenu() {
-        QMenu menu;
-        QAction* en = menu.addAction("English");
-        QAction* fr = menu.addAction("French");
-        QAction* ja = menu.addAction("Japanese");
-        SettingWindow::markRadio(fr);
-        QVERIFY(!en->isChecked() && fr->isChecked() && !ja->isChecked());
-        SettingWindow::markRadio(ja);
-        QVERIFY(!fr->isChecked() && ja->isChecked());
-        SettingWindow::markRadio(nullptr);
-        QVERIFY(ja->isChecked());
+        QCOMPARE(store.stringList("AppleLanguages"), std::optional<std::vector<std::string>>({"pt"}));
+        QCOMPARE(posted.count(), 2);
     }
 };
 

@@ -132,12 +132,6 @@ private slots:
         QWebEngineView* map = playback().dashboardWidgets().mapWebView;
         QTRY_VERIFY_WITH_TIMEOUT(!map->isHidden(), 5000);
         QTRY_VERIFY_WITH_TIMEOUT(routePoints(map) > 1, 5000);
-
-        QTest::qWait(500);
-        const QString shot =
-            QString(TARVIK_BINARY_DIR) + "/other_camera_" + QString(QTest::currentDataTag()).replace(' ', '_') + ".png";
-        QVERIFY(window_->mainWindow()->grab().save(shot));
-        qInfo("screenshot: %s", qPrintable(shot));
     }
 };
 

@@ -1,5 +1,5 @@
 // The playback helpers on their own, with real widgets and telemetry: clip
-// stepping, dashboard throttles, zoom, volume, seek slider, animation, saving.
+// stepping, dashboard throttles, zoom, volume, seek slider, saving.
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -21,7 +21,6 @@
 #include "ui/library/playback/clip_navigation.h"
 #include "ui/library/playback/clip_saver.h"
 #include "ui/library/playback/dashboard_updater.h"
-#include "ui/library/playback/play_animation.h"
 #include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/playback/volume_controller.h"
 #include "ui/library/playback/zoom_controller.h"
@@ -138,18 +137,14 @@ private slots:
 
     void nextAndPreviousTreatPairsAsOneRecording() {
         const std::vector<std::string> list = {"/c/A_F.mp4", "/c/A_R.mp4", "/c/B_F.mp4", "/c/B_R.mp4", "/c/C.avi"};
-        QCOMPARE(nextClipRow(list, 0), 2);   // skips its own rear file
-        QCOMPARE(nextClipRow(list, 1), 2);
-        QCOMPARE(nextClipRow(list, 2), 4);
-        QCOMPARE(nextClipRow(list, 4), 0);   // wraps on the last row
-        QCOMPARE(nextClipRow(list, -1), -1);
+        // Next skips a row's own rear file and wraps on the last row; previous
+        // lands on the preceding pair's front file (a rear file on its own
+        // front) and never wraps.
+        for (auto [row, next] : {std::pair{0, 2}, {1, 2}, {2, 4}, {4, 0}, {-1, -1}})
+            QCOMPARE(nextClipRow(list, row), next);
+        for (auto [row, previous] : {std::pair{2, 0}, {3, 2}, {1, 0}, {0, -1}, {4, 2}, {9, -1}})
+            QCOMPARE(previousClipRow(list, row), previous);
         QCOMPARE(nextClipRow({"/c/A_F.mp4", "/c/A_R.mp4"}, 0), 0);  // the pair is all there is
-        QCOMPARE(previousClipRow(list, 2), 0);  // onto the preceding pair's front file
-        QCOMPARE(previousClipRow(list, 3), 2);  // a rear file steps to its own front
-        QCOMPARE(previousClipRow(list, 1), 0);
-        QCOMPARE(previousClipRow(list, 0), -1);  // no wrap backwards
-        QCOMPARE(previousClipRow(list, 4), 2);   // after a pair: that pair's front file
-        QCOMPARE(previousClipRow(list, 9), -1);
         // Other cameras' A/B letters after the recording time pair as F/R do.
         const std::vector<std::string> lettered = {"/n/20261121100024A.MP4", "/n/20261121100024B.MP4", "/n/x_A.mp4"};
         QCOMPARE(nextClipRow(lettered, 0), 2);
@@ -164,9 +159,8 @@ private slots:
     }
 
     void timeTextAndSampleIndexTruncate() {
-        QCOMPARE(DashboardUpdater::sampleIndex(12.39), 123);
-        QCOMPARE(DashboardUpdater::sampleIndex(0.099), 0);
-        QCOMPARE(DashboardUpdater::sampleIndex(std::nan("")), 0);
+        for (auto [t, index] : {std::pair{12.39, 123}, {0.099, 0}, {std::nan(""), 0}})
+            QCOMPARE(DashboardUpdater::sampleIndex(t), index);
         QCOMPARE(DashboardUpdater::playTimeText(0, 0), QString("00:00/00:00"));
         QCOMPARE(DashboardUpdater::playTimeText(59.999, 3725.9), QString("00:59/62:05"));
         QCOMPARE(DashboardUpdater::playTimeText(-1, std::numeric_limits<double>::infinity()), QString("00:00/00:00"));
@@ -371,27 +365,10 @@ private slots:
         QVERIFY(!seek.isSliderTouching());
     }
 
-    void playAnimationAlternatesFrames() {
-        QLabel car, earth;
-        PlayAnimation animation(&car, &earth);
-        animation.startPlayAnimation();
-        QVERIFY(animation.isRunning());
-        QList<int> frames;
-        for (int i = 0; i < 3; ++i) {
-            animation.playAnimationTimerCallback();
-            frames << animation.shownFrame();
-        }
-        QCOMPARE(frames, QList<int>({1, 2, 1}));
-        QVERIFY(!car.pixmap().isNull() && !earth.pixmap().isNull());
-        animation.stopPlayAnimation();
-        QVERIFY(!animation.isRunning());
-    }
-
     void snapshotNamesTruncateMilliseconds() {
-        QCOMPARE(ClipSaver::snapshotFileName("A", 12.345), QString("A_12345.png"));
-        QCOMPARE(ClipSaver::snapshotFileName("A", 0.0005), QString("A_0.png"));
-        QCOMPARE(ClipSaver::snapshotFileName("A", 3725.9876), QString("A_3725987.png"));
-        QCOMPARE(ClipSaver::snapshotFileName("A", std::nan("")), QString("A_0.png"));
+        for (auto [t, name] : {std::pair{12.345, "A_12345.png"}, {0.0005, "A_0.png"}, {3725.9876, "A_3725987.png"},
+                               {std::nan(""), "A_0.png"}})
+            QCOMPARE(ClipSaver::snapshotFileName("A", t), QString(name));
         QCOMPARE(ClipSaver::baseNameOf("/card/cont_rec/20261121_083000_F.mp4"), QString("20261121_083000_F"));
         QCOMPARE(ClipSaver::baseNameOf("/card/a.b.avi"), QString("a.b"));
         QCOMPARE(ClipSaver::baseNameOf(""), QString());

@@ -203,7 +203,7 @@ private slots:
         QVERIFY(v.playPauseButton->isEnabled() && v.switchVideoButton->isEnabled());
 
         // The time text advances with the large player; the first ticks bring
-        // up the map page. Paused there for a steady look at the dashboard.
+        // up the map page. Paused there for a steady dashboard.
         QWebEngineView* map = playback().dashboardWidgets().mapWebView;
         QVERIFY(map);
         QTRY_VERIFY_WITH_TIMEOUT(!map->isHidden() && v.mapCoverView->isHidden(), 3000);
@@ -227,11 +227,6 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(mapState(map).value("moves").toInt() > 0, 5000);
         QVERIFY(!map->isHidden());
 
-        QTest::qWait(500);
-        const QString shot = QString(TARVIK_BINARY_DIR) + "/playback_window.png";
-        QVERIFY(window_->mainWindow()->grab().save(shot));
-        QVERIFY(map->grab().save(QString(TARVIK_BINARY_DIR) + "/playback_map.png"));
-        qInfo("screenshots: %s", qPrintable(shot));
         playback().playVideo();
 
         // At the end the list moves on, past the rear file, to the two-stream AVI.
@@ -245,7 +240,7 @@ private slots:
         QVERIFY(text(v.gzTextField) != "0.000");  // text records of the AVI itself
     }
 
-    void stepsSwitchRotateAndFullScreen() {
+    void switchRotateAndFullScreen() {
         doubleClick(rowOf("20261121_083200.avi"));
         QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
         QTRY_COMPARE_WITH_TIMEOUT(small()->status(), OrvoAVViewStatusPrepared, kLoadMs);
@@ -255,15 +250,7 @@ private slots:
         // not start the clip again.
         QTest::qWait(200);
         QVERIFY(playback().isVideoPaused());
-        playback().setCurrentVideoTime(1.0);
-        QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - 1.0) < 1e-3, 5000);
-        const double t0 = big()->currentTime();
-        playback().fastForwardButtonTouched();
-        QTRY_VERIFY_WITH_TIMEOUT(big()->currentTime() > t0 + 1e-4, 5000);
-        QVERIFY2(qAbs(big()->currentTime() - t0 - 1.0 / 30) < 2e-3, qPrintable(QString::number(big()->currentTime())));
-        playback().rewindButtonTouched();
-        QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - t0) < 2e-3, 5000);
-        QVERIFY(playback().isVideoPaused());
+        // Frame steps while paused are the keys test's (Right and Left).
 
         const QString front = big()->fileName(), rear = small()->fileName();
         playback().toggleVideoSwithButtonTouched();

@@ -242,21 +242,17 @@ private slots:
         big_->pause();
     }
 
-    void swapTwiceRestores() {
+    // The window's test swaps by file name; what it cannot see is which view
+    // the moved players report as, and that the rotation stays with the view.
+    void swappedPlayersReportAsTheirNewView() {
         load(big_, front_);
         load(small_, rear_);
-        MpvPlayer* bigPlayer = big_->player();
         MpvPlayer* smallPlayer = small_->player();
         big_->setUpsideDown(true);
         big_->swapPlayerItemWith(small_);
-        QCOMPARE(big_->fileName(), rear_);
-        QCOMPARE(small_->fileName(), front_);
         QCOMPARE(big_->player(), smallPlayer);
-        QCOMPARE(small_->player(), bigPlayer);
-        QVERIFY(big_->upsideDown());  // stays with the view
-        QVERIFY(!small_->upsideDown());
+        QVERIFY(big_->upsideDown() && !small_->upsideDown());
         QCOMPARE(big_->status(), OrvoAVViewStatusPrepared);
-        // The moved player now reports as the view it moved to.
         rec_.times.clear();
         big_->setCurrentTime(2.0);
         QTRY_VERIFY_WITH_TIMEOUT(lastTimeNear(big_, 2.0), kWaitMs);
@@ -264,10 +260,6 @@ private slots:
         QVERIFY(std::abs(rec_.lastTime(small_) - 2.0) > 0.5);
         QVERIFY(grab(big_).pixelColor(big_->width() / 2, 4) != grab(small_).pixelColor(small_->width() / 2, 4));
         big_->swapPlayerItemWith(small_);
-        QCOMPARE(big_->fileName(), front_);
-        QCOMPARE(small_->fileName(), rear_);
-        QCOMPARE(big_->player(), bigPlayer);
-        QCOMPARE(small_->player(), smallPlayer);
         big_->setUpsideDown(false);
     }
 
@@ -291,16 +283,6 @@ private slots:
         QVERIFY(turned.pixelColor(cx - 40, cy + 20).red() > 150);
         QVERIFY(turned.pixelColor(cx + 40, cy + 20).green() > 100);
         big_->setUpsideDown(false);
-    }
-
-    void snapshotIsThePictureAtClipSize() {
-        load(small_, front_);
-        small_->setCurrentTime(3.0);
-        const QImage still = small_->snapshot();
-        QCOMPARE(still.size(), QSize(352, 208));
-        QVERIFY(still.pixelColor(176, 104) != QColor(Qt::black));
-        QVERIFY(still.save(path("still.png"), "PNG"));
-        QCOMPARE(QImage(path("still.png"), "PNG").size(), QSize(352, 208));
     }
 
     void badInputEndsInErrorAndNextClipPlays() {

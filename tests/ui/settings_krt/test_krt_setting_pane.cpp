@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
-#include <QDir>
 #include <QScrollArea>
 #include <QSlider>
 #include <QTest>
@@ -109,17 +108,12 @@ private slots:
             "version=1.0.4\r\npark_mode=0\r\npower_off_vlt=11850\r\nlanguage=fr\r\nlocal_time=9.500000\r\n"
             "osd_speed=2\r\nmic_in=0\r\nvoice_out=0\r\nvoice_volume=2\r\nacc_level=1\r\nmotion_level=5\r\n"
             "[time]\r\nset=1");
-        QCOMPARE(pane->selectedIndex(C::PowerOffVoltage), 1);
-        QCOMPARE(pane->timeZoneComboBox()->currentIndex(), 10);
+        // The second choice everywhere; summer time has no line, which is off.
+        for (C c : {C::PowerOffVoltage, C::Language, C::SpeedUnit, C::SoundRecording, C::SummerTime, C::SecurityLed})
+            QCOMPARE(pane->selectedIndex(c), 1);
         QCOMPARE(pane->timeZoneComboBox()->currentText(), QString("(UTC+09:30) Adelaide"));
-        QCOMPARE(pane->slider(C::ImpactSensitivity)->value(), 3);
-        QCOMPARE(pane->slider(C::VoiceVolume)->value(), 3);
-        QCOMPARE(pane->slider(C::MotionSensitivity)->value(), 5);
-        QCOMPARE(pane->selectedIndex(C::Language), 1);
-        QCOMPARE(pane->selectedIndex(C::SpeedUnit), 1);
-        QCOMPARE(pane->selectedIndex(C::SoundRecording), 1);
-        QCOMPARE(pane->selectedIndex(C::SummerTime), 1);  // no line: off
-        QCOMPARE(pane->selectedIndex(C::SecurityLed), 1);
+        for (auto [c, value] : {std::pair{C::ImpactSensitivity, 3}, {C::VoiceVolume, 3}, {C::MotionSensitivity, 5}})
+            QCOMPARE(pane->slider(c)->value(), value);
         // 50/20/20/10 is no preset: the first column, but the graph as stored.
         QCOMPARE(pane->selectedMemoryPartitionColumn(), 0);
         MemoryPartitionGraphView* graph = pane->memoryPartitionGraph();
@@ -197,24 +191,14 @@ private slots:
         QCOMPARE(readFile(cfg()), factory);
     }
 
-    void cancelAndEscapeLeaveTheCardAsItWas() {
+    // Escape is the panes' keyboard test's; the cancel button is this one's.
+    void cancelLeavesTheCardAsItWas() {
         const QByteArray before = cardHash(card_);
-        auto edit = [](KRTSettingViewController& p) {
-            QTest::mouseClick(p.memoryPartitionButton(1), Qt::LeftButton);
-            p.touchRadio(C::ParkMode, 1);
-            QTest::mouseClick(p.clockCheckBox(), Qt::LeftButton);
-        };
         QCOMPARE(runPane([&](KRTSettingViewController& p) {
-                     edit(p);
+                     QTest::mouseClick(p.memoryPartitionButton(1), Qt::LeftButton);
+                     p.touchRadio(C::ParkMode, 1);
+                     QTest::mouseClick(p.clockCheckBox(), Qt::LeftButton);
                      QTest::mouseClick(p.cancelButton(), Qt::LeftButton);
-                 }),
-                 0);
-        QCOMPARE(cardHash(card_), before);
-        // The edits stay in memory until the next load.
-        QCOMPARE(KRTSettingManager::SharedKRTSettingManager().valueForKey("park_mode="), std::string("0"));
-        QCOMPARE(runPane([&](KRTSettingViewController& p) {
-                     edit(p);
-                     QTest::keyClick(p.view(), Qt::Key_Escape);
                  }),
                  0);
         QCOMPARE(cardHash(card_), before);
@@ -305,25 +289,16 @@ private slots:
         QCOMPARE(root->pos(), start + QPoint(40, 20));
     }
 
-    void screenshotsInEnglishAndJapanese() {
-        const QDir dir(QStringLiteral(TARVIK_BINARY_DIR "/screenshots"));
-        QDir().mkpath(dir.path());
-        for (const std::string code : {"en", "ja"}) {
-            setLanguage(code);
-            auto pane = openPane(readFile(cfg()));
-            pane->applyLanguageSettings();
-            QWidget* root = pane->view();
-            root->show();
-            QVERIFY(QTest::qWaitForWindowExposed(root));
-            // The guide of one slider, as it shows while held.
-            emit pane->slider(C::VoiceVolume)->slider()->sliderPressed();
-            const QString base = dir.filePath(QString("krt_pane_%1").arg(QString::fromStdString(code)));
-            QVERIFY(root->grab().save(base + ".png"));
-            QVERIFY(pane->settingsContentView()->grab().save(base + "_content.png"));
-            // Everything scrolls: the content is taller than the pane.
-            QVERIFY(pane->settingsContentView()->height() > pane->scrollView()->viewport()->height());
-            QVERIFY(pane->resetButton()->text() != QString::fromUtf8("설정값 초기화"));
-        }
+    void relabelsAndScrollsInJapanese() {
+        setLanguage("ja");
+        auto pane = openPane(readFile(cfg()));
+        pane->applyLanguageSettings();
+        pane->view()->show();
+        QVERIFY(QTest::qWaitForWindowExposed(pane->view()));
+        QVERIFY(pane->resetButton()->text() != QString::fromUtf8("설정값 초기화"));
+        // Everything scrolls: the content is taller than the pane.
+        QVERIFY(pane->settingsContentView()->height() > pane->scrollView()->viewport()->height());
+        setLanguage("en");
     }
 };
 

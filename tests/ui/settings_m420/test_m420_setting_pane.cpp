@@ -1,6 +1,6 @@
 // The M420 settings pane over generated cards: what OK writes, byte for byte
 // against offsets written out here; that opening and cancelling leaves the
-// card as it was; bad records; and pictures of every tab.
+// card as it was; bad records. (Escape on every tab is the panes' keyboard test's.)
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -60,12 +60,6 @@ struct CountingAlerts : SettingsAlertSink {
 
 void clickColumn(M420SettingViewController& pane, Control c, int column) {
     pane.control(c)->buttons()->button(column)->click();
-}
-
-QString shotDir() {
-    const QString d = QStringLiteral(TARVIK_BINARY_DIR) + "/screenshots/m420";
-    QDir().mkpath(d);
-    return d;
 }
 
 }  // namespace
@@ -185,34 +179,27 @@ private slots:
         QCOMPARE(formats.count(), 1);
     }
 
-    // Open, move everything, then cancel or Escape: not one byte changes, also
+    // Open, move everything, reset, then cancel: not one byte changes, also
     // for a record longer than the model's.
-    void cancelAndEscapeLeaveTheCardAlone() {
+    void cancelLeavesTheCardAlone() {
         for (int type : {0, 1, 2, 3, 5, 8, 11}) {
-            for (bool escape : {false, true}) {
-                QTemporaryDir card;
-                QVERIFY(cardgen::writeSettingsFiles(card.path().toStdString(), type));
-                QFile f(card.path() + "/SETTING/setup.cfg");
-                QVERIFY(f.open(QIODevice::Append));
-                f.write(QByteArray(200, '\x5a'));
-                f.close();
-                const QByteArray hash = test::cardHash(card.path().toStdString());
-                openCard(card.path());
-                M420SettingViewController pane;
-                pane.setAlertResponder([](const QString&, const QString&) { return 1001; });
-                clickColumn(pane, Control::Partition, 2);
-                clickColumn(pane, Control::ParkingMode, 1);
-                pane.control(Control::FrontBrightness)->slider()->setValue(1);
-                pane.timeCheckBox()->setChecked(false);
-                pane.resetButtonTouched();
-                if (escape) {
-                    QKeyEvent e(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-                    pane.keyDown(&e);
-                } else {
-                    pane.cancelButtonTouched();
-                }
-                QCOMPARE(test::cardHash(card.path().toStdString()), hash);
-            }
+            QTemporaryDir card;
+            QVERIFY(cardgen::writeSettingsFiles(card.path().toStdString(), type));
+            QFile f(card.path() + "/SETTING/setup.cfg");
+            QVERIFY(f.open(QIODevice::Append));
+            f.write(QByteArray(200, '\x5a'));
+            f.close();
+            const QByteArray hash = test::cardHash(card.path().toStdString());
+            openCard(card.path());
+            M420SettingViewController pane;
+            pane.setAlertResponder([](const QString&, const QString&) { return 1001; });
+            clickColumn(pane, Control::Partition, 2);
+            clickColumn(pane, Control::ParkingMode, 1);
+            pane.control(Control::FrontBrightness)->slider()->setValue(1);
+            pane.timeCheckBox()->setChecked(false);
+            pane.resetButtonTouched();
+            pane.cancelButtonTouched();
+            QCOMPARE(test::cardHash(card.path().toStdString()), hash);
         }
     }
 
@@ -284,25 +271,6 @@ private slots:
         setSettingsAlertSink(nullptr);
         QCOMPARE(sink.count, 1);
         QCOMPARE(QDir(card.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
-    }
-
-    void screenshotsOfEveryTab() {
-        QTemporaryDir card;
-        QVERIFY(cardgen::writeSettingsFiles(card.path().toStdString(), 5));
-        for (const char* lang : {"en", "ja"}) {
-            QSettingsStore::shared().setStringList("AppleLanguages", {lang});
-            openCard(card.path());
-            M420SettingViewController pane;
-            pane.applyLanguageSettings();
-            pane.view()->show();
-            for (int tab = 0; tab < 4; ++tab) {
-                pane.tabButtonTouched(tab);
-                QCoreApplication::processEvents();
-                const QString file = QString("%1/m640_%2_tab%3.png").arg(shotDir(), lang).arg(tab);
-                QVERIFY(pane.view()->grab().save(file));
-            }
-            pane.view()->hide();
-        }
     }
 };
 

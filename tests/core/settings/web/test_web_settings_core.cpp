@@ -45,24 +45,19 @@ TEST(WebPageScripts, SelectedLanguageFromByte428) {
 }
 
 TEST(WebUserQuestion, PartsAndLenientNumbers) {
-    auto q = WebUserQuestion::parse("Title\tAsk?\t7\tval\t1");
-    ASSERT_TRUE(q);
-    EXPECT_EQ(q->title, "Title");
-    EXPECT_EQ(q->message, "Ask?");
-    EXPECT_EQ(q->index, 7);
-    EXPECT_EQ(q->value, "val");
-    EXPECT_FALSE(q->asksYesNo());
-    q = WebUserQuestion::parse("t\tm\t 12abc\t\t2\textra");
-    ASSERT_TRUE(q);
-    EXPECT_EQ(q->index, 12);
-    EXPECT_EQ(q->value, "");
-    EXPECT_TRUE(q->asksYesNo());
-    EXPECT_FALSE(WebUserQuestion::parse("t\tm\t7\tv"));
-    EXPECT_FALSE(WebUserQuestion::parse(""));
-    EXPECT_EQ(leadingInteger("x3"), 0);
-    EXPECT_EQ(leadingInteger("-4"), -4);
-    EXPECT_EQ(leadingInteger("99999999999999999999"), 2147483647);
-    EXPECT_EQ(leadingInteger("-99999999999999999999"), -2147483647 - 1);
+    auto parts = [](const std::string& text) {
+        auto q = WebUserQuestion::parse(text);
+        return q ? q->title + "|" + q->message + "|" + std::to_string(q->index) + "|" + q->value + "|" +
+                       (q->asksYesNo() ? "yes/no" : "ok")
+                 : std::string("refused");
+    };
+    EXPECT_EQ(parts("Title\tAsk?\t7\tval\t1"), "Title|Ask?|7|val|ok");
+    EXPECT_EQ(parts("t\tm\t 12abc\t\t2\textra"), "t|m|12||yes/no");
+    EXPECT_EQ(parts("t\tm\t7\tv"), "refused");
+    EXPECT_EQ(parts(""), "refused");
+    for (auto [text, n] : {std::pair{"x3", 0}, {"-4", -4}, {"99999999999999999999", 2147483647},
+                           {"-99999999999999999999", -2147483647 - 1}})
+        EXPECT_EQ(leadingInteger(text), n) << text;
 }
 
 TEST(WebSettingFiles, PathsAndReads) {
