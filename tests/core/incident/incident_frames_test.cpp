@@ -136,3 +136,17 @@ TEST(IncidentFrames, PictureInPictureKeepsTheRearOnTheFrontsFrame) {
     EXPECT_NEAR(durationOf(folder / "incident.mp4"), double(want.size()) / kFps, 0.5 / kFps);
     fs::remove_all(folder);
 }
+
+// The front clips' sound goes along, as long as the picture, across the seam.
+TEST(IncidentFrames, FrontSoundGoesAlongAcrossTheSeam) {
+    const fs::path folder = exportSpan(4.5, 7.2, IncidentLayout::Front, "sound");
+    const ProcessResult r = ProcessRunner::run(
+        "ffprobe", {"-v", "error", "-select_streams", "a:0", "-show_entries", "stream=codec_name,duration", "-of",
+                    "csv=p=0", (folder / "incident.mp4").string()});
+    char codec[16] = {};
+    double seconds = 0;
+    ASSERT_EQ(std::sscanf(r.output.c_str(), "%15[^,],%lf", codec, &seconds), 2) << r.output;
+    EXPECT_STREQ(codec, "aac");
+    EXPECT_NEAR(seconds, 2.7, 0.05);
+    fs::remove_all(folder);
+}

@@ -24,6 +24,17 @@ std::string ffmpegProgram() {
     return env && *env ? env : "ffmpeg";
 }
 
+// Whether ffprobe (beside the ffmpeg in use) finds a sound stream in the clip.
+bool hasSound(const std::string& clip) {
+    std::string probe = ffmpegProgram();
+    const auto slash = probe.rfind('/');
+    probe = (slash == std::string::npos ? std::string() : probe.substr(0, slash + 1)) + "ffprobe";
+    const ProcessResult r = ProcessRunner::run(
+        probe, {"-v", "error", "-select_streams", "a", "-show_entries", "stream=index", "-of", "csv=p=0", clip},
+        std::chrono::seconds(30));
+    return r.exitCode == 0 && r.output.find_first_of("0123456789") != std::string::npos;
+}
+
 // The span's clips as one trip, for the route and samples of its stretch.
 Trip tripOfSpan(const IncidentSpan& span) {
     Trip t;
@@ -136,6 +147,8 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     written.push_back(partial);
     auto failVideo = [&](std::string text) { return fail(std::move(text)); };
     IncidentVideoOptions video = to.video;
+    video.frontAudio = std::all_of(span.parts.begin(), span.parts.end(),
+                                   [](const IncidentPart& p) { return hasSound(p.clip.path); });
     std::string overlay;
     // libass reads the overlay from a path of our own that a filter graph
     // takes as it is; the folder's own path may hold anything.

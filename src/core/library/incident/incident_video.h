@@ -24,6 +24,8 @@ struct IncidentVideoOptions {
     // An ASS file drawn over the picture; its path must need no escaping in
     // a filter graph (letters, digits, '/', '-', '_', '.').
     std::string overlayFile;
+    // The front clips' sound goes along (every front clip of the span must have one).
+    bool frontAudio = false;
 };
 
 // ffmpeg's arguments writing the span to `output` (an .mp4).
