@@ -2,6 +2,7 @@
 
 #include <stdlib.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <algorithm>
 #include <filesystem>
@@ -9,6 +10,7 @@
 
 #include "core/library/incident/evidence_copy.h"
 #include "core/library/incident/incident_record.h"
+#include "core/library/trips/clip_container.h"
 #include "core/library/trips/trip_route.h"
 #include "core/util/atomic_file.h"
 #include "core/util/process_runner.h"
@@ -111,6 +113,14 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     if (layoutNeedsRear(to.video.layout))
         for (const IncidentPart& p : span.parts)
             if (p.clip.partner.empty()) return fail(p.clip.path + " has no rear clip; choose the front layout");
+    // A clip cut short since the span was found would make a shorter video.
+    for (const IncidentPart& p : span.parts)
+        for (const std::string& clip : {p.clip.path, p.clip.partner}) {
+            if (clip.empty()) continue;
+            const ContainerState state = inspectClipContainer(clip).state;
+            if (state != ContainerState::Playable)
+                return fail(clip + " is " + containerStateText(state) + ": the span cannot be exported whole");
+        }
     const fs::path dir = to.folder;
     std::error_code ec;
     if (fs::exists(dir / "incident.mp4", ec) || fs::exists(dir / "originals", ec))
@@ -168,12 +178,14 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     args.insert(args.end() - 1, {"-progress", "pipe:1", "-nostats"});
     const double total = span.seconds();
     bool cancelled = false;
+    double encodedUntil = 0;
     std::string pending;
     const ProcessResult r = ProcessRunner::run(ffmpegProgram(), args, [&](std::string_view piece) {
         pending.append(piece);
         double encoded = -1;
         for (std::size_t at; (at = pending.find('\n')) != std::string::npos; pending.erase(0, at + 1))
             if (pending.compare(0, 12, "out_time_us=") == 0) encoded = std::atof(pending.c_str() + 12) / 1e6;
+        encodedUntil = std::max(encodedUntil, encoded);
         const double done = encoded < 0 ? -1 : 0.1 + 0.85 * std::clamp(encoded / total, 0.0, 1.0);
         cancelled = !step("encoding incident.mp4", done);
         return !cancelled;
@@ -182,6 +194,13 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     if (cancelled) return failVideo("cancelled");
     if (r.exitCode != 0 || !fs::exists(partial, ec))
         return failVideo(videoFailure(r.output));
+    // Damage inside a clip that its headers do not show ends its pictures early.
+    if (encodedUntil < total - 0.5) {
+        char text[160];
+        std::snprintf(text, sizeof text, "the video came out %.1f s shorter than the span: a clip of it is damaged",
+                      total - encodedUntil);
+        return failVideo(text);
+    }
     hashes["incident.mp4"] = sha256OfFile(partial.string());
 
     if (!step("writing the route and samples", 0.95)) return failVideo("cancelled");

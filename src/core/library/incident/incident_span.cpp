@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "core/library/trips/clip_container.h"
 #include "core/library/trips/trip_builder.h"
 #include "core/library/trips/trip_scanner.h"
 
@@ -46,6 +47,17 @@ std::optional<IncidentSpan> findIncidentSpan(const std::string& root, double fro
     std::string runsPast;
     for (const Trip& trip : scanCardTrips(root, false)) {
         if (from < double(trip.start) || from >= double(trip.end)) continue;
+        // A clip of unknown length inside the span (cut short, or never
+        // closed) would leave a hole the video could not show.
+        const auto hole = std::find_if(trip.clips.begin(), trip.clips.end(), [&](const TripClip& c) {
+            return c.seconds <= 0 && double(c.start) + 1 > from && double(c.start) < to;
+        });
+        if (hole != trip.clips.end()) {
+            const ContainerInfo info = inspectClipContainer(hole->path);
+            runsPast = hole->path + " lies in the span and is " + containerStateText(info.state) +
+                       ": the span cannot be exported whole";
+            continue;
+        }
         auto span = spanWithin(trip, from, to);
         if (!span) {
             runsPast = "the span runs past the end of the drive it starts in (" + tripTimeText(trip.end) + ")";
