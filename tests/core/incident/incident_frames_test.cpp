@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 #include "cardgen/numbered_video.h"
@@ -82,7 +83,8 @@ std::vector<int> expectedNumbers(double from, double to) {
     return out;
 }
 
-fs::path exportSpan(double from, double to, IncidentLayout layout, const std::string& name) {
+fs::path exportSpan(double from, double to, IncidentLayout layout, const std::string& name,
+                    std::optional<double> stillAt = std::nullopt) {
     std::string why;
     const auto span = findIncidentSpan(drive().root.string(), kDriveStart + from, kDriveStart + to, true, &why);
     EXPECT_TRUE(span) << why;
@@ -93,6 +95,7 @@ fs::path exportSpan(double from, double to, IncidentLayout layout, const std::st
     fs::remove_all(to_.folder);
     to_.video.layout = layout;
     to_.video.crf = 12;
+    if (stillAt) to_.stillAt = kDriveStart + *stillAt;
     EXPECT_TRUE(IncidentExporter::write(*span, to_, {}, &why)) << why;
     return to_.folder;
 }
@@ -115,12 +118,19 @@ TEST(IncidentFrames, SideBySideAcrossTheSeamHoldsEveryFrameOnce) {
     EXPECT_EQ(front, want);
     EXPECT_EQ(rear, want);
     EXPECT_NEAR(durationOf(folder / "incident.mp4"), 81.0 / kFps, 0.5 / kFps);
+    // The still is the in point's frame of both cameras.
+    const Picture still = decode(folder / "still.png");
+    ASSERT_EQ(still.frames.size(), 1u);
+    const unsigned char* row = still.frames[0].data() + std::size_t(still.height / 2) * std::size_t(still.width);
+    EXPECT_EQ(cardgen::numberInRow(row, still.width / 2), want.front());
+    EXPECT_EQ(cardgen::numberInRow(row + still.width / 2, still.width / 2), want.front());
     fs::remove_all(folder);
 }
 
 // The rear at a third of the width in the front's top right corner (16 pixels in).
 TEST(IncidentFrames, PictureInPictureKeepsTheRearOnTheFrontsFrame) {
-    const fs::path folder = exportSpan(5.0, 6.5, IncidentLayout::PictureInPicture, "pip");
+    // The still of a moment past the seam, in the second pair.
+    const fs::path folder = exportSpan(5.0, 6.5, IncidentLayout::PictureInPicture, "pip", 6.2);
     const Picture video = decode(folder / "incident.mp4");
     ASSERT_EQ(video.width, 320);
     const int insetWidth = 106, insetHeight = 60, insetX = 320 - insetWidth - 16, insetY = 16;
@@ -134,6 +144,12 @@ TEST(IncidentFrames, PictureInPictureKeepsTheRearOnTheFrontsFrame) {
     EXPECT_EQ(front, want);
     EXPECT_EQ(rear, want);
     EXPECT_NEAR(durationOf(folder / "incident.mp4"), double(want.size()) / kFps, 0.5 / kFps);
+    const Picture still = decode(folder / "still.png");
+    ASSERT_EQ(still.frames.size(), 1u);
+    EXPECT_EQ(cardgen::numberInRow(still.frames[0].data() + std::size_t(still.height * 3 / 4) * 320, 320), kSecondPair + 6);
+    EXPECT_EQ(cardgen::numberInRow(still.frames[0].data() + std::size_t(insetY + insetHeight / 2) * 320 + insetX,
+                                   insetWidth),
+              kSecondPair + 6);
     fs::remove_all(folder);
 }
 

@@ -10,6 +10,7 @@
 
 #include "core/library/incident/evidence_copy.h"
 #include "core/library/incident/incident_record.h"
+#include "core/library/incident/incident_still.h"
 #include "core/library/trips/clip_container.h"
 #include "core/library/trips/trip_route.h"
 #include "core/util/atomic_file.h"
@@ -21,14 +22,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string ffmpegProgram() {
-    const char* env = std::getenv("TARVIK_FFMPEG");
-    return env && *env ? env : "ffmpeg";
-}
-
 // Whether ffprobe (beside the ffmpeg in use) finds a sound stream in the clip.
 bool hasSound(const std::string& clip) {
-    std::string probe = ffmpegProgram();
+    std::string probe = incidentFfmpeg();
     const auto slash = probe.rfind('/');
     probe = (slash == std::string::npos ? std::string() : probe.substr(0, slash + 1)) + "ffprobe";
     const ProcessResult r = ProcessRunner::run(
@@ -180,7 +176,7 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     bool cancelled = false;
     double encodedUntil = 0;
     std::string pending;
-    const ProcessResult r = ProcessRunner::run(ffmpegProgram(), args, [&](std::string_view piece) {
+    const ProcessResult r = ProcessRunner::run(incidentFfmpeg(), args, [&](std::string_view piece) {
         pending.append(piece);
         double encoded = -1;
         for (std::size_t at; (at = pending.find('\n')) != std::string::npos; pending.erase(0, at + 1))
@@ -203,7 +199,17 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     }
     hashes["incident.mp4"] = sha256OfFile(partial.string());
 
-    if (!step("writing the route and samples", 0.95)) return failVideo("cancelled");
+    if (!step("drawing still.png", 0.95)) return failVideo("cancelled");
+    IncidentStill still{to.video, to.overlay, to.overlayOptions};
+    still.video.overlayFile.clear();
+    written.push_back(dir / "still.png");
+    std::string stillWhy;
+    const double stillAt = to.stillAt && span.holds(*to.stillAt) ? *to.stillAt : span.start();
+    if (!writeIncidentStill(span, stillAt, still, (dir / "still.png").string(), &stillWhy))
+        return failVideo("still.png: " + stillWhy);
+    hashes["still.png"] = sha256OfFile((dir / "still.png").string());
+
+    if (!step("writing the route and samples", 0.97)) return failVideo("cancelled");
     const Trip trip = tripOfSpan(span);
     const double from = double(span.parts.front().clip.start - trip.start) + span.parts.front().from;
     const double until = double(span.parts.back().clip.start - trip.start) + span.parts.back().to;

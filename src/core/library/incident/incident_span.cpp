@@ -15,6 +15,13 @@ double IncidentSpan::seconds() const {
     return s;
 }
 
+bool IncidentSpan::holds(double t) const {
+    return std::any_of(parts.begin(), parts.end(), [t](const IncidentPart& p) {
+        const double at = t - double(p.clip.start);
+        return at >= p.from - 1e-6 && at < p.to;
+    });
+}
+
 std::optional<IncidentSpan> spanWithin(const Trip& trip, double from, double to) {
     if (!(to > from) || trip.clips.empty()) return std::nullopt;
     // Times typed to the second may name the end of the drive a fraction

@@ -1,6 +1,7 @@
 #include "core/library/incident/incident_video.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace tarvik {
 
@@ -27,6 +28,11 @@ std::string joined(std::size_t first, std::size_t count, const std::string& labe
 
 }  // namespace
 
+std::string incidentFfmpeg() {
+    const char* env = std::getenv("TARVIK_FFMPEG");
+    return env && *env ? env : "ffmpeg";
+}
+
 const char* layoutName(IncidentLayout layout) {
     switch (layout) {
     case IncidentLayout::Front: return "front";
@@ -46,13 +52,14 @@ bool layoutFromName(const std::string& name, IncidentLayout* layout) {
 
 bool layoutNeedsRear(IncidentLayout layout) { return layout != IncidentLayout::Front; }
 
-std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
-                                                const std::string& output) {
+namespace {
+
+// The inputs and the filter graph of the picture (and of the sound, as [a],
+// when `audio`), up to the picture's -map.
+std::vector<std::string> pictureArguments(const IncidentSpan& span, const IncidentVideoOptions& o, bool audio) {
     std::vector<std::string> args = {"-nostdin", "-hide_banner", "-loglevel", "error", "-y"};
     const bool front = o.layout != IncidentLayout::Rear;
     const bool rear = layoutNeedsRear(o.layout);
-    // The rear camera alone goes without the front's sound.
-    const bool audio = o.frontAudio && front;
     // An input's -ss and -t, given before it, decode from the key frame
     // before the in point and drop what lies outside: exact to the frame.
     auto inputs = [&](bool ofRear) {
@@ -84,11 +91,28 @@ std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const 
         last = "[o]";
     }
     args.insert(args.end(), {"-filter_complex", graph, "-map", last});
+    return args;
+}
+
+}  // namespace
+
+std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
+                                                const std::string& output) {
+    // The rear camera alone goes without the front's sound.
+    const bool audio = o.frontAudio && o.layout != IncidentLayout::Rear;
+    std::vector<std::string> args = pictureArguments(span, o, audio);
     if (audio) args.insert(args.end(), {"-map", "[a]", "-c:a", "aac", "-b:a", "128k"});
     else args.push_back("-an");
     args.insert(args.end(), {"-c:v", "libx264", "-preset", "veryfast",
                              "-crf", std::to_string(o.crf), "-pix_fmt", "yuv420p", "-movflags", "+faststart", "-f",
                              "mp4", output});
+    return args;
+}
+
+std::vector<std::string> incidentStillArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
+                                                const std::string& output) {
+    std::vector<std::string> args = pictureArguments(span, o, false);
+    args.insert(args.end(), {"-frames:v", "1", "-update", "1", "-c:v", "png", "-f", "image2", output});
     return args;
 }
 
