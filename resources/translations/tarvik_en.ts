@@ -1085,5 +1085,21 @@ Select a model name to apply its default settings.</translation>
         <source>This drive cannot be exported: the length of its clips is unknown.</source>
         <translation>This drive cannot be exported: the length of its clips is unknown.</translation>
     </message>
+    <message>
+        <source>Save still of both cameras...</source>
+        <translation>Save still of both cameras...</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras</source>
+        <translation>Save still of both cameras</translation>
+    </message>
+    <message>
+        <source>The still could not be saved: %1</source>
+        <translation>The still could not be saved: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip first.</source>
+        <translation>Play a clip first.</translation>
+    </message>
 </context>
 </TS>

@@ -1085,5 +1085,21 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>This drive cannot be exported: the length of its clips is unknown.</source>
         <translation>Ce trajet ne peut pas être exporté : la durée de ses clips est inconnue.</translation>
     </message>
+    <message>
+        <source>Save still of both cameras...</source>
+        <translation>Enregistrer l'image des deux caméras...</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras</source>
+        <translation>Enregistrer l'image des deux caméras</translation>
+    </message>
+    <message>
+        <source>The still could not be saved: %1</source>
+        <translation>L'image n'a pas pu être enregistrée : %1</translation>
+    </message>
+    <message>
+        <source>Play a clip first.</source>
+        <translation>Lisez d'abord un clip.</translation>
+    </message>
 </context>
 </TS>

@@ -1081,5 +1081,21 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>This drive cannot be exported: the length of its clips is unknown.</source>
         <translation>この走行は書き出せません: クリップの長さが不明です。</translation>
     </message>
+    <message>
+        <source>Save still of both cameras...</source>
+        <translation>両カメラの静止画を保存...</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras</source>
+        <translation>両カメラの静止画を保存</translation>
+    </message>
+    <message>
+        <source>The still could not be saved: %1</source>
+        <translation>静止画を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip first.</source>
+        <translation>先にクリップを再生してください。</translation>
+    </message>
 </context>
 </TS>

@@ -1085,5 +1085,21 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>This drive cannot be exported: the length of its clips is unknown.</source>
         <translation>Esta viagem não pode ser exportada: a duração dos seus clipes é desconhecida.</translation>
     </message>
+    <message>
+        <source>Save still of both cameras...</source>
+        <translation>Guardar imagem das duas câmaras...</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras</source>
+        <translation>Guardar imagem das duas câmaras</translation>
+    </message>
+    <message>
+        <source>The still could not be saved: %1</source>
+        <translation>Não foi possível guardar a imagem: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip first.</source>
+        <translation>Reproduza primeiro um clipe.</translation>
+    </message>
 </context>
 </TS>

@@ -13,6 +13,7 @@
 #include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -34,6 +35,7 @@
 #include "ui/library/incident/incident_export_progress.h"
 #include "ui/library/incident/incident_features.h"
 #include "ui/library/incident/incident_span_band.h"
+#include "ui/library/incident/incident_still_saver.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/seek_slider_controller.h"
 
@@ -256,6 +258,33 @@ private slots:
         QCOMPARE(QDir(out).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
         QTest::keyClick(progress, Qt::Key_Escape);
         QTRY_VERIFY(!incident().progress());
+    }
+
+    void stillOfBothCamerasAloneFromTheMenu() {
+        showAt("20261121_100004_F.avi", 2.3);
+        QString answer;
+        incident().stillSaver().setFileChooser([&](QWidget*, const QString&) { return answer; });
+        QMenu* menu = window_->views().mainMenu->findChild<QMenu*>("incidentMenu");
+        auto trigger = [menu] {
+            emit menu->aboutToShow();
+            for (QAction* a : menu->actions())
+                if (a->text() == "Save still of both cameras...") a->trigger();
+        };
+        // On the card: refused, nothing written there.
+        answer = QString::fromStdString((card_ / "still.png").string());
+        trigger();
+        QVERIFY(!incident().stillSaver().isSaving());
+        QTRY_VERIFY(QApplication::activeModalWidget() || window_->mainWindow()->findChild<QWidget*>("incidentAlert"));
+        if (auto* box = window_->mainWindow()->findChild<QWidget*>("incidentAlert")) box->close();
+        answer = dir_.filePath("still");
+        QSignalSpy saved(&incident().stillSaver(), &IncidentStillSaver::saved);
+        trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(saved.size(), 1, 30000);
+        QVERIFY2(saved.front().at(0).toBool(), qPrintable(saved.front().at(2).toString()));
+        // Side by side (the last export was side by side), the front's half the playing frame.
+        QImage still(dir_.filePath("still.png"));
+        QCOMPARE(still.size(), QSize(640, 180));
+        QVERIFY(still.save(shotPath("incident-still.png")));
     }
 
     void contextMenuExportsTheSelectedClipsWhole() {

@@ -39,6 +39,8 @@ public:
     static constexpr const char* kOverlayKey = "IncidentExportOverlay";
     static constexpr const char* kQualityKey = "IncidentExportQuality";
     static constexpr const char* kFolderKey = "IncidentExportFolder";
+    // The dashboard's speed unit, which the overlay follows: 1 is miles per hour.
+    static constexpr const char* kSpeedUnitKey = "OrvoViewerSpeedUnit";
 
 private:
     void chooseFolder();

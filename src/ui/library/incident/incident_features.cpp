@@ -15,13 +15,11 @@
 #include "ui/library/incident/incident_export_dialog.h"
 #include "ui/library/incident/incident_export_progress.h"
 #include "ui/library/incident/incident_span_choice.h"
+#include "ui/library/incident/incident_still_saver.h"
 
 namespace tarvik {
 
 namespace {
-
-// The viewer's speed unit (the dashboard's preference): 1 is miles per hour.
-constexpr const char* kSpeedUnitKey = "OrvoViewerSpeedUnit";
 
 // A bracket and the band it opens (in) or closes (out), in the band's colour.
 QIcon markIcon(bool in) {
@@ -59,7 +57,11 @@ IncidentFeatures::IncidentFeatures(QSlider* slider, QWidget* toolbar, QWidget* w
       marks_(new IncidentMarks(slider, std::move(playing), this)),
       // In the free stretch of the tool bar after the full-screen button.
       markIn_(markButton(toolbar, true, 612)),
-      markOut_(markButton(toolbar, false, 648)) {
+      markOut_(markButton(toolbar, false, 648)),
+      still_(new IncidentStillSaver(window, QSettingsStore::shared(), this)) {
+    connect(still_, &IncidentStillSaver::saved, this, [this](bool ok, const QString& path, const QString& why) {
+        if (!ok) alert(tr_k("The still could not be saved: %1").arg(why));
+    });
     connect(markIn_, &QToolButton::clicked, marks_, &IncidentMarks::markIn);
     connect(markOut_, &QToolButton::clicked, marks_, &IncidentMarks::markOut);
     connect(marks_, &IncidentMarks::playingChanged, this, &IncidentFeatures::updateButtons);
@@ -118,6 +120,8 @@ QMenu* IncidentFeatures::addMenuTo(QMenuBar* bar) {
         menu->addSeparator();
         menu->addAction(tr_k("Export incident..."), this, &IncidentFeatures::exportIncident)
             ->setEnabled(playing || marks_->hasSpan());
+        menu->addAction(tr_k("Save still of both cameras..."), this, &IncidentFeatures::saveStill)
+            ->setEnabled(playing && !still_->isSaving());
     });
     return menu;
 }
@@ -158,6 +162,16 @@ bool IncidentFeatures::exportIncident() {
     return exportSpan(*span);
 }
 
+bool IncidentFeatures::saveStill() {
+    const IncidentMarks::Playing p = marks_->playing();
+    const auto span = p.clip.empty() ? std::nullopt : spanOfClips(cardRoot_(), {p.clip});
+    if (!span) {
+        alert(tr_k("Play a clip first."));
+        return false;
+    }
+    return still_->save(*span, double(p.start) + p.seconds);
+}
+
 bool IncidentFeatures::exportSpan(const IncidentSpan& span) {
     if (dialog_ || (progress_ && progress_->isRunning())) return false;
     dialog_ = new IncidentExportDialog(span, QSettingsStore::shared(), window_);
@@ -170,7 +184,10 @@ bool IncidentFeatures::exportSpan(const IncidentSpan& span) {
 void IncidentFeatures::startExport(const IncidentSpan& span) {
     IncidentExport to = dialog_->choice();
     to.programVersion = QCoreApplication::applicationVersion().toStdString();
-    to.overlayOptions.mph = QSettingsStore::shared().integer(kSpeedUnitKey).value_or(0) == 1;
+    // The still shows what is on the screen, when that lies in the span.
+    const IncidentMarks::Playing p = marks_->playing();
+    if (!p.clip.empty()) to.stillAt = double(p.start) + p.seconds;
+    to.overlayOptions.mph = QSettingsStore::shared().integer(IncidentExportDialog::kSpeedUnitKey).value_or(0) == 1;
     if (progress_) progress_->deleteLater();
     progress_ = new IncidentExportProgress(span, std::move(to), window_);
     progress_->setAttribute(Qt::WA_DeleteOnClose);

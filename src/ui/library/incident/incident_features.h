@@ -24,6 +24,7 @@ namespace tarvik {
 
 class IncidentExportDialog;
 class IncidentExportProgress;
+class IncidentStillSaver;
 
 class IncidentFeatures : public QObject {
     Q_OBJECT
@@ -52,6 +53,9 @@ public:
     // there is neither.
     bool exportIncident();
     bool exportSpan(const IncidentSpan& span);
+    // The playing moment of both cameras as a PNG, asked where.
+    bool saveStill();
+    IncidentStillSaver& stillSaver() { return *still_; }
 
 private:
     void alert(const QString& text);
@@ -64,6 +68,7 @@ private:
     IncidentMarks* marks_;
     QToolButton* markIn_;
     QToolButton* markOut_;
+    IncidentStillSaver* still_;
     QPointer<IncidentExportDialog> dialog_;
     QPointer<IncidentExportProgress> progress_;
     std::string markedRoot_;
