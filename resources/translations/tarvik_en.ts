@@ -1101,5 +1101,9 @@ Select a model name to apply its default settings.</translation>
         <source>Play a clip first.</source>
         <translation>Play a clip first.</translation>
     </message>
+    <message>
+        <source>Drawing still.png</source>
+        <translation>Drawing still.png</translation>
+    </message>
 </context>
 </TS>

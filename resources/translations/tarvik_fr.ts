@@ -1101,5 +1101,9 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>Play a clip first.</source>
         <translation>Lisez d'abord un clip.</translation>
     </message>
+    <message>
+        <source>Drawing still.png</source>
+        <translation>Création de still.png</translation>
+    </message>
 </context>
 </TS>

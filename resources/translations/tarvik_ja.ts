@@ -1097,5 +1097,9 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>Play a clip first.</source>
         <translation>先にクリップを再生してください。</translation>
     </message>
+    <message>
+        <source>Drawing still.png</source>
+        <translation>still.png を作成中</translation>
+    </message>
 </context>
 </TS>

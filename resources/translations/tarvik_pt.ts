@@ -1101,5 +1101,9 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>Play a clip first.</source>
         <translation>Reproduza primeiro um clipe.</translation>
     </message>
+    <message>
+        <source>Drawing still.png</source>
+        <translation>A criar still.png</translation>
+    </message>
 </context>
 </TS>

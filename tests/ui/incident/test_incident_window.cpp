@@ -214,7 +214,7 @@ private slots:
         QTest::mouseClick(dialog->exportButton(), Qt::LeftButton);
         QTRY_VERIFY(incident().progress());
         IncidentExportProgress* progress = incident().progress();
-        QTRY_VERIFY_WITH_TIMEOUT(progress->bar()->value() > 100, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(progress->bar()->value() >= 100, 30000);
         shootScreen("incident-progress.png");
         QTRY_VERIFY_WITH_TIMEOUT(!progress->isRunning(), 120000);
         QVERIFY2(progress->succeeded(), qPrintable(progress->failure()));

@@ -22,6 +22,7 @@ namespace {
 QString stepText(const QString& step) {
     if (step.startsWith("copying ")) return tr_k("Copying %1").arg(step.mid(8));
     if (step.startsWith("encoding")) return tr_k("Making incident.mp4");
+    if (step.startsWith("drawing")) return tr_k("Drawing still.png");
     if (step.startsWith("writing")) return tr_k("Writing the route and samples");
     if (step == "done") return tr_k("Done");
     return step;
@@ -106,16 +107,18 @@ void IncidentExportProgress::progressed(const QString& step, double done) {
     if (done < 0) return;
     bar_->setValue(int(done * 1000));
     // Encoding is most of the work and runs at an even pace: the estimate is
-    // taken from it once it has gone some way.
-    static constexpr double kEncodingFrom = 0.1;
+    // taken from it once it has gone some way, timed from when its output
+    // starts to grow (the encoder holds a few frames back first).
+    static constexpr double kEncodingFrom = 0.1, kEncodingUntil = 0.95;
     const double elapsed = clock_.elapsed() / 1000.0;
     if (done <= kEncodingFrom) {
         encodingSince_ = elapsed;
         return;
     }
+    if (done >= kEncodingUntil) return estimate_->clear();
     if (done < kEncodingFrom + 0.02 || elapsed - encodingSince_ < 1.0) return;
     const double rate = (done - kEncodingFrom) / (elapsed - encodingSince_);
-    estimate_->setText(remainingText((1.0 - done) / rate));
+    estimate_->setText(remainingText((kEncodingUntil - done) / rate));
 }
 
 QString IncidentExportProgress::remainingText(double seconds) {
