@@ -38,6 +38,7 @@
 #include "ui/library/incident/incident_still_saver.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/seek_slider_controller.h"
+#include "ui/library/trips/trip_features.h"
 
 using namespace tarvik;
 namespace fs = std::filesystem;
@@ -296,6 +297,17 @@ private slots:
         QTRY_VERIFY(incident().dialog() && incident().dialog()->isVisible());
         QVERIFY(incident().dialog()->findChild<QLabel*>("incidentSpanText")->text().contains("10:00:04.0"));
         QVERIFY(incident().dialog()->findChild<QLabel*>("incidentSpanText")->text().contains("8.0 s"));
+        incident().dialog()->reject();
+        QTRY_VERIFY(!incident().dialog());
+
+        // The trips view's command takes the drive under the pointer whole.
+        const Trip drive = window_->trips().tripOf((card_ / "cont_rec/20261121_100000_F.avi").string());
+        QMenu tripMenu;
+        incident().addCommands(tripMenu, &drive, {});
+        tripMenu.actions().front()->trigger();
+        QTRY_VERIFY(incident().dialog() && incident().dialog()->isVisible());
+        const QString text = incident().dialog()->findChild<QLabel*>("incidentSpanText")->text();
+        QVERIFY2(text.contains("10:00:00.0") && text.contains("12.0 s"), qPrintable(text));
         incident().dialog()->reject();
         QTRY_VERIFY(!incident().dialog());
     }
