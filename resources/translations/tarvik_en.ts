@@ -917,5 +917,193 @@ Select a model name to apply its default settings.</translation>
         <source>The folder %1 does not exist.</source>
         <translation>The folder %1 does not exist.</translation>
     </message>
+    <message>
+        <source>Incident</source>
+        <translation>Incident</translation>
+    </message>
+    <message>
+        <source>Mark the start of an incident</source>
+        <translation>Mark the start of an incident</translation>
+    </message>
+    <message>
+        <source>Mark the end of an incident</source>
+        <translation>Mark the end of an incident</translation>
+    </message>
+    <message>
+        <source>Clear the marks</source>
+        <translation>Clear the marks</translation>
+    </message>
+    <message>
+        <source>Export incident...</source>
+        <translation>Export incident...</translation>
+    </message>
+    <message>
+        <source>Export incident</source>
+        <translation>Export incident</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Span</source>
+        <translation>Span</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Overlay</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Destination</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choose...</translation>
+    </message>
+    <message>
+        <source>Front camera only</source>
+        <translation>Front camera only</translation>
+    </message>
+    <message>
+        <source>Rear camera only</source>
+        <translation>Rear camera only</translation>
+    </message>
+    <message>
+        <source>Front and rear side by side</source>
+        <translation>Front and rear side by side</translation>
+    </message>
+    <message>
+        <source>Rear in a corner of the front</source>
+        <translation>Rear in a corner of the front</translation>
+    </message>
+    <message>
+        <source>High (larger file)</source>
+        <translation>High (larger file)</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Compact (smaller file)</source>
+        <translation>Compact (smaller file)</translation>
+    </message>
+    <message>
+        <source>Time, speed, G values and position over the picture</source>
+        <translation>Time, speed, G values and position over the picture</translation>
+    </message>
+    <message>
+        <source>Choose the folder the incident goes into.</source>
+        <translation>Choose the folder the incident goes into.</translation>
+    </message>
+    <message>
+        <source>This folder is on the memory card. Evidence is never written to the card it comes from: choose a folder on another disk.</source>
+        <translation>This folder is on the memory card. Evidence is never written to the card it comes from: choose a folder on another disk.</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Preparing</translation>
+    </message>
+    <message>
+        <source>Copying %1</source>
+        <translation>Copying %1</translation>
+    </message>
+    <message>
+        <source>Making incident.mp4</source>
+        <translation>Making incident.mp4</translation>
+    </message>
+    <message>
+        <source>Writing the route and samples</source>
+        <translation>Writing the route and samples</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>About %1 s left</translation>
+    </message>
+    <message>
+        <source>About %1 min %2 s left</source>
+        <translation>About %1 min %2 s left</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>Cancelling...</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>The incident is in %1</source>
+        <translation>The incident is in %1</translation>
+    </message>
+    <message>
+        <source>The export was cancelled. Nothing of it was kept.</source>
+        <translation>The export was cancelled. Nothing of it was kept.</translation>
+    </message>
+    <message>
+        <source>The destination is full. Nothing of the export was kept.</source>
+        <translation>The destination is full. Nothing of the export was kept.</translation>
+    </message>
+    <message>
+        <source>The incident could not be exported: %1</source>
+        <translation>The incident could not be exported: %1</translation>
+    </message>
+    <message>
+        <source>The marked span cannot be exported: %1</source>
+        <translation>The marked span cannot be exported: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip, or mark the start and the end of an incident, first.</source>
+        <translation>Play a clip, or mark the start and the end of an incident, first.</translation>
+    </message>
+    <message>
+        <source>The selected clips are not one stretch of a drive, or their length is unknown.</source>
+        <translation>The selected clips are not one stretch of a drive, or their length is unknown.</translation>
+    </message>
+    <message>
+        <source>This drive cannot be exported: the length of its clips is unknown.</source>
+        <translation>This drive cannot be exported: the length of its clips is unknown.</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras...</source>
+        <translation>Save still of both cameras...</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras</source>
+        <translation>Save still of both cameras</translation>
+    </message>
+    <message>
+        <source>The still could not be saved: %1</source>
+        <translation>The still could not be saved: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip first.</source>
+        <translation>Play a clip first.</translation>
+    </message>
+    <message>
+        <source>Drawing still.png</source>
+        <translation>Drawing still.png</translation>
+    </message>
 </context>
 </TS>

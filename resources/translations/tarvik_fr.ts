@@ -917,5 +917,193 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>The folder %1 does not exist.</source>
         <translation>Le dossier %1 n'existe pas.</translation>
     </message>
+    <message>
+        <source>Incident</source>
+        <translation>Incident</translation>
+    </message>
+    <message>
+        <source>Mark the start of an incident</source>
+        <translation>Marquer le début d'un incident</translation>
+    </message>
+    <message>
+        <source>Mark the end of an incident</source>
+        <translation>Marquer la fin d'un incident</translation>
+    </message>
+    <message>
+        <source>Clear the marks</source>
+        <translation>Effacer les repères</translation>
+    </message>
+    <message>
+        <source>Export incident...</source>
+        <translation>Exporter l'incident...</translation>
+    </message>
+    <message>
+        <source>Export incident</source>
+        <translation>Exporter l'incident</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Span</source>
+        <translation>Intervalle</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Disposition</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Incrustation</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Destination</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Front camera only</source>
+        <translation>Caméra avant seule</translation>
+    </message>
+    <message>
+        <source>Rear camera only</source>
+        <translation>Caméra arrière seule</translation>
+    </message>
+    <message>
+        <source>Front and rear side by side</source>
+        <translation>Avant et arrière côte à côte</translation>
+    </message>
+    <message>
+        <source>Rear in a corner of the front</source>
+        <translation>Arrière dans un coin de l'avant</translation>
+    </message>
+    <message>
+        <source>High (larger file)</source>
+        <translation>Haute (fichier plus gros)</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Compact (smaller file)</source>
+        <translation>Compacte (fichier plus petit)</translation>
+    </message>
+    <message>
+        <source>Time, speed, G values and position over the picture</source>
+        <translation>Heure, vitesse, valeurs G et position sur l'image</translation>
+    </message>
+    <message>
+        <source>Choose the folder the incident goes into.</source>
+        <translation>Choisissez le dossier où placer l'incident.</translation>
+    </message>
+    <message>
+        <source>This folder is on the memory card. Evidence is never written to the card it comes from: choose a folder on another disk.</source>
+        <translation>Ce dossier est sur la carte mémoire. Une preuve n'est jamais écrite sur la carte d'où elle vient : choisissez un dossier sur un autre disque.</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Préparation</translation>
+    </message>
+    <message>
+        <source>Copying %1</source>
+        <translation>Copie de %1</translation>
+    </message>
+    <message>
+        <source>Making incident.mp4</source>
+        <translation>Création de incident.mp4</translation>
+    </message>
+    <message>
+        <source>Writing the route and samples</source>
+        <translation>Écriture du trajet et des mesures</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Environ %1 s restantes</translation>
+    </message>
+    <message>
+        <source>About %1 min %2 s left</source>
+        <translation>Environ %1 min %2 s restantes</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>Annulation...</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>The incident is in %1</source>
+        <translation>L'incident est dans %1</translation>
+    </message>
+    <message>
+        <source>The export was cancelled. Nothing of it was kept.</source>
+        <translation>L'export a été annulé. Rien n'en a été gardé.</translation>
+    </message>
+    <message>
+        <source>The destination is full. Nothing of the export was kept.</source>
+        <translation>La destination est pleine. Rien de l'export n'a été gardé.</translation>
+    </message>
+    <message>
+        <source>The incident could not be exported: %1</source>
+        <translation>L'incident n'a pas pu être exporté : %1</translation>
+    </message>
+    <message>
+        <source>The marked span cannot be exported: %1</source>
+        <translation>L'intervalle marqué ne peut pas être exporté : %1</translation>
+    </message>
+    <message>
+        <source>Play a clip, or mark the start and the end of an incident, first.</source>
+        <translation>Lisez d'abord un clip, ou marquez le début et la fin d'un incident.</translation>
+    </message>
+    <message>
+        <source>The selected clips are not one stretch of a drive, or their length is unknown.</source>
+        <translation>Les clips choisis ne forment pas une seule portion d'un trajet, ou leur durée est inconnue.</translation>
+    </message>
+    <message>
+        <source>This drive cannot be exported: the length of its clips is unknown.</source>
+        <translation>Ce trajet ne peut pas être exporté : la durée de ses clips est inconnue.</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras...</source>
+        <translation>Enregistrer l'image des deux caméras...</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras</source>
+        <translation>Enregistrer l'image des deux caméras</translation>
+    </message>
+    <message>
+        <source>The still could not be saved: %1</source>
+        <translation>L'image n'a pas pu être enregistrée : %1</translation>
+    </message>
+    <message>
+        <source>Play a clip first.</source>
+        <translation>Lisez d'abord un clip.</translation>
+    </message>
+    <message>
+        <source>Drawing still.png</source>
+        <translation>Création de still.png</translation>
+    </message>
 </context>
 </TS>

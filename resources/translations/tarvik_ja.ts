@@ -913,5 +913,193 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>The folder %1 does not exist.</source>
         <translation>フォルダー %1 は存在しません。</translation>
     </message>
+    <message>
+        <source>Incident</source>
+        <translation>事故</translation>
+    </message>
+    <message>
+        <source>Mark the start of an incident</source>
+        <translation>事故の開始点を設定</translation>
+    </message>
+    <message>
+        <source>Mark the end of an incident</source>
+        <translation>事故の終了点を設定</translation>
+    </message>
+    <message>
+        <source>Clear the marks</source>
+        <translation>マークを消去</translation>
+    </message>
+    <message>
+        <source>Export incident...</source>
+        <translation>事故を書き出す...</translation>
+    </message>
+    <message>
+        <source>Export incident</source>
+        <translation>事故の書き出し</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>書き出す</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Span</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>レイアウト</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>オーバーレイ</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>画質</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>保存先</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>選択...</translation>
+    </message>
+    <message>
+        <source>Front camera only</source>
+        <translation>前方カメラのみ</translation>
+    </message>
+    <message>
+        <source>Rear camera only</source>
+        <translation>後方カメラのみ</translation>
+    </message>
+    <message>
+        <source>Front and rear side by side</source>
+        <translation>前方と後方を横に並べる</translation>
+    </message>
+    <message>
+        <source>Rear in a corner of the front</source>
+        <translation>前方の隅に後方を表示</translation>
+    </message>
+    <message>
+        <source>High (larger file)</source>
+        <translation>高画質（大きいファイル）</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Compact (smaller file)</source>
+        <translation>コンパクト（小さいファイル）</translation>
+    </message>
+    <message>
+        <source>Time, speed, G values and position over the picture</source>
+        <translation>時刻・速度・G値・位置を映像に重ねる</translation>
+    </message>
+    <message>
+        <source>Choose the folder the incident goes into.</source>
+        <translation>事故の保存先フォルダを選んでください。</translation>
+    </message>
+    <message>
+        <source>This folder is on the memory card. Evidence is never written to the card it comes from: choose a folder on another disk.</source>
+        <translation>このフォルダはメモリーカード上にあります。証拠は元のカードには書き込みません。別のディスクのフォルダを選んでください。</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>準備中</translation>
+    </message>
+    <message>
+        <source>Copying %1</source>
+        <translation>%1 をコピー中</translation>
+    </message>
+    <message>
+        <source>Making incident.mp4</source>
+        <translation>incident.mp4 を作成中</translation>
+    </message>
+    <message>
+        <source>Writing the route and samples</source>
+        <translation>ルートと計測値を書き出し中</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>残り約 %1 秒</translation>
+    </message>
+    <message>
+        <source>About %1 min %2 s left</source>
+        <translation>残り約 %1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>キャンセル中...</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>フォルダを開く</translation>
+    </message>
+    <message>
+        <source>The incident is in %1</source>
+        <translation>事故は %1 に保存されました</translation>
+    </message>
+    <message>
+        <source>The export was cancelled. Nothing of it was kept.</source>
+        <translation>書き出しはキャンセルされました。何も残っていません。</translation>
+    </message>
+    <message>
+        <source>The destination is full. Nothing of the export was kept.</source>
+        <translation>保存先がいっぱいです。書き出したものは何も残っていません。</translation>
+    </message>
+    <message>
+        <source>The incident could not be exported: %1</source>
+        <translation>事故を書き出せませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The marked span cannot be exported: %1</source>
+        <translation>マークした範囲は書き出せません: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip, or mark the start and the end of an incident, first.</source>
+        <translation>先にクリップを再生するか、事故の開始点と終了点を設定してください。</translation>
+    </message>
+    <message>
+        <source>The selected clips are not one stretch of a drive, or their length is unknown.</source>
+        <translation>選択したクリップは一続きの走行ではないか、長さが不明です。</translation>
+    </message>
+    <message>
+        <source>This drive cannot be exported: the length of its clips is unknown.</source>
+        <translation>この走行は書き出せません: クリップの長さが不明です。</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras...</source>
+        <translation>両カメラの静止画を保存...</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras</source>
+        <translation>両カメラの静止画を保存</translation>
+    </message>
+    <message>
+        <source>The still could not be saved: %1</source>
+        <translation>静止画を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip first.</source>
+        <translation>先にクリップを再生してください。</translation>
+    </message>
+    <message>
+        <source>Drawing still.png</source>
+        <translation>still.png を作成中</translation>
+    </message>
 </context>
 </TS>

@@ -917,5 +917,193 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>The folder %1 does not exist.</source>
         <translation>A pasta %1 não existe.</translation>
     </message>
+    <message>
+        <source>Incident</source>
+        <translation>Incidente</translation>
+    </message>
+    <message>
+        <source>Mark the start of an incident</source>
+        <translation>Marcar o início de um incidente</translation>
+    </message>
+    <message>
+        <source>Mark the end of an incident</source>
+        <translation>Marcar o fim de um incidente</translation>
+    </message>
+    <message>
+        <source>Clear the marks</source>
+        <translation>Limpar as marcas</translation>
+    </message>
+    <message>
+        <source>Export incident...</source>
+        <translation>Exportar incidente...</translation>
+    </message>
+    <message>
+        <source>Export incident</source>
+        <translation>Exportar incidente</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Span</source>
+        <translation>Intervalo</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Disposição</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Sobreposição</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualidade</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Destino</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Escolher...</translation>
+    </message>
+    <message>
+        <source>Front camera only</source>
+        <translation>Só a câmara dianteira</translation>
+    </message>
+    <message>
+        <source>Rear camera only</source>
+        <translation>Só a câmara traseira</translation>
+    </message>
+    <message>
+        <source>Front and rear side by side</source>
+        <translation>Dianteira e traseira lado a lado</translation>
+    </message>
+    <message>
+        <source>Rear in a corner of the front</source>
+        <translation>Traseira num canto da dianteira</translation>
+    </message>
+    <message>
+        <source>High (larger file)</source>
+        <translation>Alta (ficheiro maior)</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Compact (smaller file)</source>
+        <translation>Compacta (ficheiro menor)</translation>
+    </message>
+    <message>
+        <source>Time, speed, G values and position over the picture</source>
+        <translation>Hora, velocidade, valores G e posição sobre a imagem</translation>
+    </message>
+    <message>
+        <source>Choose the folder the incident goes into.</source>
+        <translation>Escolha a pasta para onde vai o incidente.</translation>
+    </message>
+    <message>
+        <source>This folder is on the memory card. Evidence is never written to the card it comes from: choose a folder on another disk.</source>
+        <translation>Esta pasta está no cartão de memória. Uma prova nunca é escrita no cartão de onde vem: escolha uma pasta noutro disco.</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>A preparar</translation>
+    </message>
+    <message>
+        <source>Copying %1</source>
+        <translation>A copiar %1</translation>
+    </message>
+    <message>
+        <source>Making incident.mp4</source>
+        <translation>A criar incident.mp4</translation>
+    </message>
+    <message>
+        <source>Writing the route and samples</source>
+        <translation>A escrever o trajeto e as medições</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Faltam cerca de %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min %2 s left</source>
+        <translation>Faltam cerca de %1 min %2 s</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>A cancelar...</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Abrir a pasta</translation>
+    </message>
+    <message>
+        <source>The incident is in %1</source>
+        <translation>O incidente está em %1</translation>
+    </message>
+    <message>
+        <source>The export was cancelled. Nothing of it was kept.</source>
+        <translation>A exportação foi cancelada. Nada dela foi guardado.</translation>
+    </message>
+    <message>
+        <source>The destination is full. Nothing of the export was kept.</source>
+        <translation>O destino está cheio. Nada da exportação foi guardado.</translation>
+    </message>
+    <message>
+        <source>The incident could not be exported: %1</source>
+        <translation>Não foi possível exportar o incidente: %1</translation>
+    </message>
+    <message>
+        <source>The marked span cannot be exported: %1</source>
+        <translation>O intervalo marcado não pode ser exportado: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip, or mark the start and the end of an incident, first.</source>
+        <translation>Reproduza primeiro um clipe, ou marque o início e o fim de um incidente.</translation>
+    </message>
+    <message>
+        <source>The selected clips are not one stretch of a drive, or their length is unknown.</source>
+        <translation>Os clipes escolhidos não são um só troço de uma viagem, ou a sua duração é desconhecida.</translation>
+    </message>
+    <message>
+        <source>This drive cannot be exported: the length of its clips is unknown.</source>
+        <translation>Esta viagem não pode ser exportada: a duração dos seus clipes é desconhecida.</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras...</source>
+        <translation>Guardar imagem das duas câmaras...</translation>
+    </message>
+    <message>
+        <source>Save still of both cameras</source>
+        <translation>Guardar imagem das duas câmaras</translation>
+    </message>
+    <message>
+        <source>The still could not be saved: %1</source>
+        <translation>Não foi possível guardar a imagem: %1</translation>
+    </message>
+    <message>
+        <source>Play a clip first.</source>
+        <translation>Reproduza primeiro um clipe.</translation>
+    </message>
+    <message>
+        <source>Drawing still.png</source>
+        <translation>A criar still.png</translation>
+    </message>
 </context>
 </TS>

@@ -35,6 +35,10 @@ const char* MainWindow::actionForKey(int key, Qt::KeyboardModifiers modifiers) {
         return "volumeDown";
     case Qt::Key_Up:
         return "volumeUp";
+    case Qt::Key_I:
+        return command ? nullptr : "markIncidentIn";
+    case Qt::Key_O:
+        return command ? nullptr : "markIncidentOut";
     default:
         return nullptr;
     }

@@ -30,6 +30,8 @@
 #include "ui/controls/image_button.h"
 #include "ui/controls/image_library.h"
 #include "ui/device/mount_watcher.h"
+#include "ui/library/incident/incident_features.h"
+#include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/trips/trip_features.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/l10n/qt_dialog_translations.h"
@@ -84,6 +86,12 @@ MainWindowController::MainWindowController(QObject* parent) : QObject(parent) {
     // ---- end of playback ----
     trips_ = new TripFeatures(v_.fileListTableView, catalogue_->catalogue(), *playback_, window, this);
     trips_->addMenuTo(v_.mainMenu);
+    incident_ = new IncidentFeatures(v_.seekTimeSliderView, v_.toolbarButtons, window, [this] {
+        const SeekSliderController& s = playback_->seekSlider();
+        return IncidentFeatures::playingAt(playback_->currentVideoUrl(), s.currentSliderValue(), s.maxSliderValue());
+    }, [this] { return catalogue_->catalogue().selectedVideoDirectoryUrl(); }, this);
+    incident_->addMenuTo(v_.mainMenu);
+    trips_->setExtraCommands([this](QMenu& m, const Trip* t) { incident_->addCommands(m, t, trips_->selectedClips()); });
 
     auto& center = NotificationCenter::shared();
     connect(&center, &NotificationCenter::refreshLanguage, this, &MainWindowController::refreshLanguageHandler);
@@ -216,6 +224,8 @@ void MainWindowController::rewindButtonTouched(QObject* sender) { playback_->rew
 void MainWindowController::fastForwardButtonTouched(QObject* sender) { playback_->fastForwardButtonTouched(sender); }
 void MainWindowController::volumeDown(QObject*) { playback_->volumeDown(); }
 void MainWindowController::volumeUp(QObject*) { playback_->volumeUp(); }
+void MainWindowController::markIncidentIn(QObject*) { incident_->marks().markIn(); }
+void MainWindowController::markIncidentOut(QObject*) { incident_->marks().markOut(); }
 // ---- end of playback commands ----
 
 }  // namespace tarvik

@@ -13,6 +13,7 @@ namespace tarvik {
 
 class CardController;
 class CatalogueController;
+class IncidentFeatures;
 class MainWindow;
 class MountWatcher;
 class PlaybackController;
@@ -43,6 +44,7 @@ public:
     PreferencesMenuController& preferencesMenu() { return *prefsMenu_; }
     PlaybackController& playback() { return *playback_; }
     TripFeatures& trips() { return *trips_; }
+    IncidentFeatures& incident() { return *incident_; }
 
     void showMainWindow();
     void enableVideoControls(bool flag);
@@ -68,6 +70,8 @@ public slots:
     void fastForwardButtonTouched(QObject* sender = nullptr);
     void volumeDown(QObject* sender = nullptr);
     void volumeUp(QObject* sender = nullptr);
+    void markIncidentIn(QObject* sender = nullptr);
+    void markIncidentOut(QObject* sender = nullptr);
     // ---- end of playback commands ----
 
 signals:
@@ -88,6 +92,7 @@ private:
     std::unique_ptr<SettingsAlertBox> alertBox_;
     PlaybackController* playback_ = nullptr;
     TripFeatures* trips_ = nullptr;
+    IncidentFeatures* incident_ = nullptr;
     QString fallbackFolder_;
     QString startFolder_;
     bool startFolderOpened_ = false;

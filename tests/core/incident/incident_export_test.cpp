@@ -193,6 +193,26 @@ TEST(IncidentExport, RefusalsLeaveNoVideoAndTheCardAsItWas) {
     EXPECT_EQ(shell("cd '" + front.path.string() + "' && sha256sum -c --quiet SHA256SUMS").exitCode, 0);
 }
 
+// A clip of the span cut short (the camera lost power while writing it), of
+// either camera: the clip is named, nothing is written, the card is as it was.
+TEST(IncidentExport, TruncatedClipInTheSpanIsNamed) {
+    for (const char* cut : {"cont_rec/20261121_100004_F.avi", "cont_rec/20261121_100004_R.avi"}) {
+        Drive drive;
+        const fs::path clip = drive.card.path / cut;
+        fs::resize_file(clip, fs::file_size(clip) / 2);
+        const auto before = tree(drive.card.path);
+        Folder out("truncated");
+        ProcessResult r = runTarvik({"export", drive.card.path.string(), "--from", "2026-11-21 10:00:02", "--to",
+                                     "2026-11-21 10:00:10", "--out", out.path.string()});
+        EXPECT_EQ(r.exitCode, 1) << cut << "\n" << r.output;
+        EXPECT_NE(r.output.find(clip.filename().string()), std::string::npos) << r.output;
+        EXPECT_NE(r.output.find("cannot be exported whole"), std::string::npos) << r.output;
+        EXPECT_FALSE(fs::exists(out.path / "incident.mp4"));
+        EXPECT_FALSE(fs::exists(out.path / "originals"));
+        EXPECT_EQ(tree(drive.card.path), before);
+    }
+}
+
 // The overlay says what the dashboard says at the same moment: the sample at
 // trunc(t x 10), G as raw x 4 / 512 to three places, degrees to four.
 TEST(IncidentExport, OverlayTextsAreTheDashboardsValues) {

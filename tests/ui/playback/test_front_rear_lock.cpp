@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "cardgen/video_maker.h"
+#include "cardgen/numbered_video.h"
 #include "core/library/clip_catalogue.h"
 #include "ui/shell/catalogue_controller.h"
 #include "ui/shell/main_window.h"
@@ -28,42 +28,12 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kLoadMs = 30000;
-constexpr int kBits = 10;
 // The second pair of the trip counts on from here, so the seam shows.
 constexpr int kSecondPair = 512;
 constexpr int kLastFrame = 6 * 30 - 1;  // of a six-second pair
 
-// A clip whose frame N shows the number N + first.
-bool makeNumberedClip(const fs::path& path, int fps, double seconds, int first) {
-    const QString code = QString("geq=lum='if(mod(floor((N+%1)/pow(2,floor(X/32))),2),235,96)':cb=128:cr=128")
-                             .arg(first);
-    const QStringList args{"-v", "error", "-y", "-f", "lavfi", "-i",
-                           QString("color=c=black:s=320x180:r=%1:d=%2").arg(fps).arg(seconds), "-f", "lavfi", "-i",
-                           QString("sine=frequency=440:duration=%1").arg(seconds), "-vf", code, "-c:v", "libx264",
-                           "-crf", "18", "-g", QString::number(fps), "-pix_fmt", "yuv420p", "-c:a", "aac", "-shortest",
-                           QString::fromStdString(path.string())};
-    return QProcess::execute(QString::fromStdString(cardgen::ffmpegProgram()), args) == 0;
-}
-
-// The number in one row of grey pixels across a view, -1 when it shows none
-// (black, or between pictures): the picture is what is not black.
-int numberInRow(const uchar* row, int width) {
-    int left = -1, right = -1;
-    for (int x = 0; x < width; ++x) {
-        if (row[x] <= 40) continue;
-        if (left < 0) left = x;
-        right = x;
-    }
-    if (left < 0 || right - left < 2 * kBits) return -1;
-    const double bit = (right - left + 1) / double(kBits);
-    int number = 0;
-    for (int i = 0; i < kBits; ++i) {
-        const int g = row[left + int((i + 0.5) * bit)];
-        if (g > 170) number |= 1 << i;
-        else if (g < 50 || g > 140) return -1;
-    }
-    return number;
-}
+using cardgen::makeNumberedClip;
+using cardgen::numberInRow;
 
 // The number a view draws, read from the view itself (for pictures that stand).
 int shownNumber(OrvoAVView* view) {

@@ -2,6 +2,7 @@
 
 #include <stdlib.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <algorithm>
 #include <filesystem>
@@ -9,6 +10,8 @@
 
 #include "core/library/incident/evidence_copy.h"
 #include "core/library/incident/incident_record.h"
+#include "core/library/incident/incident_still.h"
+#include "core/library/trips/clip_container.h"
 #include "core/library/trips/trip_route.h"
 #include "core/util/atomic_file.h"
 #include "core/util/process_runner.h"
@@ -19,9 +22,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string ffmpegProgram() {
-    const char* env = std::getenv("TARVIK_FFMPEG");
-    return env && *env ? env : "ffmpeg";
+// Whether ffprobe (beside the ffmpeg in use) finds a sound stream in the clip.
+bool hasSound(const std::string& clip) {
+    std::string probe = incidentFfmpeg();
+    const auto slash = probe.rfind('/');
+    probe = (slash == std::string::npos ? std::string() : probe.substr(0, slash + 1)) + "ffprobe";
+    const ProcessResult r = ProcessRunner::run(
+        probe, {"-v", "error", "-select_streams", "a", "-show_entries", "stream=index", "-of", "csv=p=0", clip},
+        std::chrono::seconds(30));
+    return r.exitCode == 0 && r.output.find_first_of("0123456789") != std::string::npos;
 }
 
 // The span's clips as one trip, for the route and samples of its stretch.
@@ -100,6 +109,14 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     if (layoutNeedsRear(to.video.layout))
         for (const IncidentPart& p : span.parts)
             if (p.clip.partner.empty()) return fail(p.clip.path + " has no rear clip; choose the front layout");
+    // A clip cut short since the span was found would make a shorter video.
+    for (const IncidentPart& p : span.parts)
+        for (const std::string& clip : {p.clip.path, p.clip.partner}) {
+            if (clip.empty()) continue;
+            const ContainerState state = inspectClipContainer(clip).state;
+            if (state != ContainerState::Playable)
+                return fail(clip + " is " + containerStateText(state) + ": the span cannot be exported whole");
+        }
     const fs::path dir = to.folder;
     std::error_code ec;
     if (fs::exists(dir / "incident.mp4", ec) || fs::exists(dir / "originals", ec))
@@ -136,6 +153,8 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     written.push_back(partial);
     auto failVideo = [&](std::string text) { return fail(std::move(text)); };
     IncidentVideoOptions video = to.video;
+    video.frontAudio = std::all_of(span.parts.begin(), span.parts.end(),
+                                   [](const IncidentPart& p) { return hasSound(p.clip.path); });
     std::string overlay;
     // libass reads the overlay from a path of our own that a filter graph
     // takes as it is; the folder's own path may hold anything.
@@ -155,12 +174,14 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     args.insert(args.end() - 1, {"-progress", "pipe:1", "-nostats"});
     const double total = span.seconds();
     bool cancelled = false;
+    double encodedUntil = 0;
     std::string pending;
-    const ProcessResult r = ProcessRunner::run(ffmpegProgram(), args, [&](std::string_view piece) {
+    const ProcessResult r = ProcessRunner::run(incidentFfmpeg(), args, [&](std::string_view piece) {
         pending.append(piece);
         double encoded = -1;
         for (std::size_t at; (at = pending.find('\n')) != std::string::npos; pending.erase(0, at + 1))
             if (pending.compare(0, 12, "out_time_us=") == 0) encoded = std::atof(pending.c_str() + 12) / 1e6;
+        encodedUntil = std::max(encodedUntil, encoded);
         const double done = encoded < 0 ? -1 : 0.1 + 0.85 * std::clamp(encoded / total, 0.0, 1.0);
         cancelled = !step("encoding incident.mp4", done);
         return !cancelled;
@@ -169,9 +190,26 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     if (cancelled) return failVideo("cancelled");
     if (r.exitCode != 0 || !fs::exists(partial, ec))
         return failVideo(videoFailure(r.output));
+    // Damage inside a clip that its headers do not show ends its pictures early.
+    if (encodedUntil < total - 0.5) {
+        char text[160];
+        std::snprintf(text, sizeof text, "the video came out %.1f s shorter than the span: a clip of it is damaged",
+                      total - encodedUntil);
+        return failVideo(text);
+    }
     hashes["incident.mp4"] = sha256OfFile(partial.string());
 
-    if (!step("writing the route and samples", 0.95)) return failVideo("cancelled");
+    if (!step("drawing still.png", 0.95)) return failVideo("cancelled");
+    IncidentStill still{to.video, to.overlay, to.overlayOptions};
+    still.video.overlayFile.clear();
+    written.push_back(dir / "still.png");
+    std::string stillWhy;
+    const double stillAt = to.stillAt && span.holds(*to.stillAt) ? *to.stillAt : span.start();
+    if (!writeIncidentStill(span, stillAt, still, (dir / "still.png").string(), &stillWhy))
+        return failVideo("still.png: " + stillWhy);
+    hashes["still.png"] = sha256OfFile((dir / "still.png").string());
+
+    if (!step("writing the route and samples", 0.97)) return failVideo("cancelled");
     const Trip trip = tripOfSpan(span);
     const double from = double(span.parts.front().clip.start - trip.start) + span.parts.front().from;
     const double until = double(span.parts.back().clip.start - trip.start) + span.parts.back().to;

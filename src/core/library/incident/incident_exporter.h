@@ -1,13 +1,15 @@
 #pragma once
 // An incident handed over as evidence: a folder that is never on the card,
 // holding the span as one video of both cameras (incident.mp4), every clip it
-// touches copied byte for byte (originals/), its route with times
+// touches copied byte for byte (originals/), a still of both cameras
+// (still.png), its route with times
 // (route.gpx), its samples (telemetry.csv), the overlay as drawn (overlay.ass,
 // when asked for), what it is (incident.json) and
 // the SHA-256 of every file in the form `sha256sum -c` checks (SHA256SUMS).
 // The card is only read.
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "core/library/incident/incident_overlay.h"
@@ -22,6 +24,8 @@ struct IncidentExport {
     OverlayOptions overlayOptions;
     std::string folder;          // created when missing; must not hold an incident yet
     std::string programVersion;  // written into incident.json
+    // The moment of still.png (camera clock); the in point when none.
+    std::optional<double> stillAt;
 };
 
 class IncidentExporter {

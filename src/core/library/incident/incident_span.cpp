@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "core/library/trips/clip_container.h"
 #include "core/library/trips/trip_builder.h"
 #include "core/library/trips/trip_scanner.h"
 
@@ -12,6 +13,13 @@ double IncidentSpan::seconds() const {
     double s = 0;
     for (const IncidentPart& p : parts) s += p.to - p.from;
     return s;
+}
+
+bool IncidentSpan::holds(double t) const {
+    return std::any_of(parts.begin(), parts.end(), [t](const IncidentPart& p) {
+        const double at = t - double(p.clip.start);
+        return at >= p.from - 1e-6 && at < p.to;
+    });
 }
 
 std::optional<IncidentSpan> spanWithin(const Trip& trip, double from, double to) {
@@ -46,6 +54,17 @@ std::optional<IncidentSpan> findIncidentSpan(const std::string& root, double fro
     std::string runsPast;
     for (const Trip& trip : scanCardTrips(root, false)) {
         if (from < double(trip.start) || from >= double(trip.end)) continue;
+        // A clip of unknown length inside the span (cut short, or never
+        // closed) would leave a hole the video could not show.
+        const auto hole = std::find_if(trip.clips.begin(), trip.clips.end(), [&](const TripClip& c) {
+            return c.seconds <= 0 && double(c.start) + 1 > from && double(c.start) < to;
+        });
+        if (hole != trip.clips.end()) {
+            const ContainerInfo info = inspectClipContainer(hole->path);
+            runsPast = hole->path + " lies in the span and is " + containerStateText(info.state) +
+                       ": the span cannot be exported whole";
+            continue;
+        }
         auto span = spanWithin(trip, from, to);
         if (!span) {
             runsPast = "the span runs past the end of the drive it starts in (" + tripTimeText(trip.end) + ")";

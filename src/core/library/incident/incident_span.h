@@ -22,6 +22,8 @@ struct IncidentSpan {
     // The in point, in seconds since the epoch as the camera's clock read it.
     double start() const { return parts.empty() ? 0 : double(parts.front().clip.start) + parts.front().from; }
     double seconds() const;
+    // Whether the moment t (camera clock) lies in one of the parts.
+    bool holds(double t) const;
 };
 
 // The parts of `trip` between the moments from and to (camera clock, seconds

@@ -1,6 +1,7 @@
 #include "core/library/incident/incident_video.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace tarvik {
 
@@ -12,15 +13,25 @@ std::string seconds(double s) {
     return buf;
 }
 
-// The parts of one camera joined into the stream `label`; `first` is the
-// index of its first input.
-std::string joined(std::size_t first, std::size_t count, const std::string& label) {
+// The parts of one camera joined into the stream `label` (and their sound
+// into `[a]` when asked); `first` is the index of its first input.
+std::string joined(std::size_t first, std::size_t count, const std::string& label, bool audio = false) {
     std::string graph;
-    for (std::size_t i = 0; i < count; ++i) graph += "[" + std::to_string(first + i) + ":v:0]";
-    return graph + "concat=n=" + std::to_string(count) + ":v=1:a=0,setsar=1[" + label + "]";
+    for (std::size_t i = 0; i < count; ++i) {
+        graph += "[" + std::to_string(first + i) + ":v:0]";
+        if (audio) graph += "[" + std::to_string(first + i) + ":a:0]";
+    }
+    if (!audio) return graph + "concat=n=" + std::to_string(count) + ":v=1:a=0,setsar=1[" + label + "]";
+    return graph + "concat=n=" + std::to_string(count) + ":v=1:a=1[" + label + "0][a];[" + label + "0]setsar=1[" +
+           label + "]";
 }
 
 }  // namespace
+
+std::string incidentFfmpeg() {
+    const char* env = std::getenv("TARVIK_FFMPEG");
+    return env && *env ? env : "ffmpeg";
+}
 
 const char* layoutName(IncidentLayout layout) {
     switch (layout) {
@@ -41,8 +52,11 @@ bool layoutFromName(const std::string& name, IncidentLayout* layout) {
 
 bool layoutNeedsRear(IncidentLayout layout) { return layout != IncidentLayout::Front; }
 
-std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
-                                                const std::string& output) {
+namespace {
+
+// The inputs and the filter graph of the picture (and of the sound, as [a],
+// when `audio`), up to the picture's -map.
+std::vector<std::string> pictureArguments(const IncidentSpan& span, const IncidentVideoOptions& o, bool audio) {
     std::vector<std::string> args = {"-nostdin", "-hide_banner", "-loglevel", "error", "-y"};
     const bool front = o.layout != IncidentLayout::Rear;
     const bool rear = layoutNeedsRear(o.layout);
@@ -60,14 +74,14 @@ std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const 
     std::string graph;
     switch (o.layout) {
     case IncidentLayout::Front:
-    case IncidentLayout::Rear: graph = joined(0, n, "v"); break;
+    case IncidentLayout::Rear: graph = joined(0, n, "v", audio); break;
     case IncidentLayout::Side:
         // The rear at the front's height, beside it.
-        graph = joined(0, n, "f") + ";" + joined(n, n, "r") + ";[r][f]scale2ref=w=-2:h=main_h[rs][fs];[fs][rs]hstack=inputs=2[v]";
+        graph = joined(0, n, "f", audio) + ";" + joined(n, n, "r") + ";[r][f]scale2ref=w=-2:h=main_h[rs][fs];[fs][rs]hstack=inputs=2[v]";
         break;
     case IncidentLayout::PictureInPicture:
         // The rear at a third of the front's width, in its top right corner.
-        graph = joined(0, n, "f") + ";" + joined(n, n, "r") +
+        graph = joined(0, n, "f", audio) + ";" + joined(n, n, "r") +
                 ";[r][f]scale2ref=w=trunc(main_w/6)*2:h=-2[rs][fs];[fs][rs]overlay=x=W-w-16:y=16:eof_action=pass[v]";
         break;
     }
@@ -76,9 +90,29 @@ std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const 
         graph += ";[v]ass=filename=" + o.overlayFile + "[o]";
         last = "[o]";
     }
-    args.insert(args.end(), {"-filter_complex", graph, "-map", last, "-an", "-c:v", "libx264", "-preset", "veryfast",
+    args.insert(args.end(), {"-filter_complex", graph, "-map", last});
+    return args;
+}
+
+}  // namespace
+
+std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
+                                                const std::string& output) {
+    // The rear camera alone goes without the front's sound.
+    const bool audio = o.frontAudio && o.layout != IncidentLayout::Rear;
+    std::vector<std::string> args = pictureArguments(span, o, audio);
+    if (audio) args.insert(args.end(), {"-map", "[a]", "-c:a", "aac", "-b:a", "128k"});
+    else args.push_back("-an");
+    args.insert(args.end(), {"-c:v", "libx264", "-preset", "veryfast",
                              "-crf", std::to_string(o.crf), "-pix_fmt", "yuv420p", "-movflags", "+faststart", "-f",
                              "mp4", output});
+    return args;
+}
+
+std::vector<std::string> incidentStillArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
+                                                const std::string& output) {
+    std::vector<std::string> args = pictureArguments(span, o, false);
+    args.insert(args.end(), {"-frames:v", "1", "-update", "1", "-c:v", "png", "-f", "image2", output});
     return args;
 }
 

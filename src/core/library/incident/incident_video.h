@@ -24,10 +24,20 @@ struct IncidentVideoOptions {
     // An ASS file drawn over the picture; its path must need no escaping in
     // a filter graph (letters, digits, '/', '-', '_', '.').
     std::string overlayFile;
+    // The front clips' sound goes along (every front clip of the span must have one).
+    bool frontAudio = false;
 };
+
+// The ffmpeg that does the work: $TARVIK_FFMPEG, else "ffmpeg" on PATH.
+std::string incidentFfmpeg();
 
 // ffmpeg's arguments writing the span to `output` (an .mp4).
 std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& options,
+                                                const std::string& output);
+
+// ffmpeg's arguments writing the span's first picture, laid out and
+// overlaid the same way, to `output` (a .png).
+std::vector<std::string> incidentStillArguments(const IncidentSpan& span, const IncidentVideoOptions& options,
                                                 const std::string& output);
 
 }  // namespace tarvik

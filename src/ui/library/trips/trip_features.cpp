@@ -247,6 +247,10 @@ void TripFeatures::showContextMenu(const QPoint& at) {
         })->setEnabled(row >= 0 && row < int(trips.size()));
         menu.addSeparator();
         menu.addAction(tr_k("Card report..."), this, [this] { showCardReport(); });
+        if (extraCommands_) {
+            menu.addSeparator();
+            extraCommands_(menu, row >= 0 && row < int(trips.size()) ? &trips[std::size_t(row)] : nullptr);
+        }
         menu.exec(tripList_->viewport()->mapToGlobal(at));
         return;
     }
@@ -254,6 +258,10 @@ void TripFeatures::showContextMenu(const QPoint& at) {
         ->setEnabled(!catalogue_.selectedVideoDirectoryUrl().empty());
     menu.addSeparator();
     addCommands(menu);
+    if (extraCommands_) {
+        menu.addSeparator();
+        extraCommands_(menu, nullptr);
+    }
     menu.exec(clipList_->viewport()->mapToGlobal(at));
 }
 

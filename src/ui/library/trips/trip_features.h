@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,9 @@ public:
     // Trips in place of the clips in the list, or the clips again.
     void showTripList(bool on);
     TripListView* tripList() const { return tripList_; }
+    // More commands for the context menus of the clip list (trip null) and
+    // the trips view (the trip under the pointer, if any).
+    void setExtraCommands(std::function<void(QMenu&, const Trip* trip)> add) { extraCommands_ = std::move(add); }
     // Plays the trip's first clip (when the list's filter shows it).
     bool playTrip(const Trip& trip);
 
@@ -83,6 +87,7 @@ private:
     double clipOffset_ = 0;
     int driven_ = -1;
     int routeGeneration_ = 0;
+    std::function<void(QMenu&, const Trip*)> extraCommands_;
 };
 
 }  // namespace tarvik
