@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -286,4 +287,28 @@ TEST(IncidentExport, CancelAndAFullDestinationLeaveNothing) {
         << r.output;
     EXPECT_EQ(r.output.substr(r.output.find("exit 1\n") + 7), "") << "left behind: " << r.output;
     EXPECT_EQ(tree(drive.card.path), before);
+}
+
+// A whole clip of one camera without an overlay goes over as the camera's own
+// picture: not one frame re-encoded (the decoded frames are the original's),
+// and the same span with the overlay is drawn anew.
+TEST(IncidentExport, AWholeClipWithoutOverlayKeepsTheCamerasPicture) {
+    Drive drive;
+    const auto framesOf = [](const fs::path& clip) {
+        return shell("ffmpeg -v error -i '" + clip.string() + "' -map 0:v:0 -f framemd5 - | grep -v '^#' | cut -d, -f6")
+            .output;
+    };
+    const fs::path clip = drive.card.path / "cont_rec/20261121_100004_R.avi";
+    for (bool overlay : {false, true}) {
+        Folder out(overlay ? "whole-overlay" : "whole");
+        std::vector<std::string> args = {"export", drive.card.path.string(), "--from", "2026-11-21 10:00:04", "--to",
+                                         "2026-11-21 10:00:08", "--layout", "rear", "--out", out.path.string()};
+        if (overlay) args.push_back("--overlay");
+        ProcessResult r = runTarvik(args);
+        ASSERT_EQ(r.exitCode, 0) << r.output;
+        const std::string original = framesOf(clip), exported = framesOf(out.path / "incident.mp4");
+        EXPECT_EQ(std::count(exported.begin(), exported.end(), '\n'), 40);
+        EXPECT_EQ(exported == original, !overlay) << "overlay " << overlay;
+        EXPECT_EQ(shell("cd '" + out.path.string() + "' && sha256sum -c --quiet SHA256SUMS").exitCode, 0);
+    }
 }

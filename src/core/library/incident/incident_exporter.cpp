@@ -23,14 +23,23 @@ namespace fs = std::filesystem;
 namespace {
 
 // Whether ffprobe (beside the ffmpeg in use) finds a sound stream in the clip.
-bool hasSound(const std::string& clip) {
+// ffprobe's answer about the first stream of a kind ("a" or "v") of a clip.
+std::string probeFirstStream(const std::string& clip, const char* kind, const char* entry) {
     std::string probe = incidentFfmpeg();
     const auto slash = probe.rfind('/');
     probe = (slash == std::string::npos ? std::string() : probe.substr(0, slash + 1)) + "ffprobe";
-    const ProcessResult r = ProcessRunner::run(
-        probe, {"-v", "error", "-select_streams", "a", "-show_entries", "stream=index", "-of", "csv=p=0", clip},
-        std::chrono::seconds(30));
-    return r.exitCode == 0 && r.output.find_first_of("0123456789") != std::string::npos;
+    const ProcessResult r = ProcessRunner::run(probe,
+                                               {"-v", "error", "-select_streams", std::string(kind) + ":0",
+                                                "-show_entries", std::string("stream=") + entry, "-of", "csv=p=0", clip},
+                                               std::chrono::seconds(30));
+    if (r.exitCode != 0) return {};
+    std::string out = r.output;
+    while (!out.empty() && (out.back() == '\n' || out.back() == '\r' || out.back() == ',')) out.pop_back();
+    return out;
+}
+
+bool hasSound(const std::string& clip) {
+    return probeFirstStream(clip, "a", "index").find_first_of("0123456789") != std::string::npos;
 }
 
 // The span's clips as one trip, for the route and samples of its stretch.
@@ -168,6 +177,11 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
             !writeFileAtomically((dir / "overlay.ass").string(), overlay))
             return failVideo("overlay.ass: cannot be written");
         hashes["overlay.ass"] = sha256OfFile((dir / "overlay.ass").string());
+    }
+    if (!to.overlay && span.parts.size() == 1) {
+        const IncidentPart& p = span.parts.front();
+        const std::string& clip = video.layout == IncidentLayout::Rear ? p.clip.partner : p.clip.path;
+        video.copyPicture = canCopyPicture(span, video, probeFirstStream(clip, "v", "codec_name"));
     }
     // ffmpeg tells how far it is (out_time_us=...) on its standard output.
     std::vector<std::string> args = incidentVideoArguments(span, video, partial.string());

@@ -96,10 +96,30 @@ std::vector<std::string> pictureArguments(const IncidentSpan& span, const Incide
 
 }  // namespace
 
+bool canCopyPicture(const IncidentSpan& span, const IncidentVideoOptions& o, const std::string& codec) {
+    if (o.layout == IncidentLayout::Side || o.layout == IncidentLayout::PictureInPicture) return false;
+    if (!o.overlayFile.empty() || span.parts.size() != 1) return false;
+    const IncidentPart& p = span.parts.front();
+    constexpr double kFrame = 0.001;
+    if (p.clip.seconds <= 0 || p.from > kFrame || p.to < p.clip.seconds - kFrame) return false;
+    return codec == "h264" || codec == "hevc";
+}
+
 std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
                                                 const std::string& output) {
     // The rear camera alone goes without the front's sound.
     const bool audio = o.frontAudio && o.layout != IncidentLayout::Rear;
+    if (o.copyPicture && span.parts.size() == 1) {
+        const IncidentPart& p = span.parts.front();
+        std::vector<std::string> args = {"-nostdin", "-hide_banner", "-loglevel", "error", "-y", "-i",
+                                         o.layout == IncidentLayout::Rear ? p.clip.partner : p.clip.path,
+                                         "-map", "0:v:0", "-c:v", "copy"};
+        // The camera's sound may be PCM, which MP4 does not hold: it alone is encoded.
+        if (audio) args.insert(args.end(), {"-map", "0:a:0", "-c:a", "aac", "-b:a", "128k"});
+        else args.push_back("-an");
+        args.insert(args.end(), {"-movflags", "+faststart", "-f", "mp4", output});
+        return args;
+    }
     std::vector<std::string> args = pictureArguments(span, o, audio);
     if (audio) args.insert(args.end(), {"-map", "[a]", "-c:a", "aac", "-b:a", "128k"});
     else args.push_back("-an");

@@ -26,7 +26,15 @@ struct IncidentVideoOptions {
     std::string overlayFile;
     // The front clips' sound goes along (every front clip of the span must have one).
     bool frontAudio = false;
+    // The picture's own packets, unchanged: only where nothing asks for a
+    // new picture (see `canCopyPicture`).
+    bool copyPicture = false;
 };
+
+// Whether the span's picture can go into incident.mp4 as the camera wrote
+// it: one camera, no overlay, one whole clip (a cut inside a clip would
+// start on a key frame, not on the in point), in a codec MP4 holds.
+bool canCopyPicture(const IncidentSpan& span, const IncidentVideoOptions& options, const std::string& codec);
 
 // The ffmpeg that does the work: $TARVIK_FFMPEG, else "ffmpeg" on PATH.
 std::string incidentFfmpeg();
