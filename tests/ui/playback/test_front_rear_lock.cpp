@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QScreen>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -72,20 +73,31 @@ int shownNumber(OrvoAVView* view) {
     return numberInRow(image.constScanLine(image.height() / 2), image.width());
 }
 
+// The number a view shows on the screen, read from one row of the display
+// across its middle: what was presented, as a screen recording sees it.
+int screenNumber(OrvoAVView* view) {
+    QScreen* screen = view->screen();
+    if (!screen || !view->isVisible()) return -1;
+    const QPoint at = view->mapToGlobal(QPoint(0, view->height() / 2)) - screen->geometry().topLeft();
+    const QImage row =
+        screen->grabWindow(0, at.x(), at.y(), view->width(), 1).toImage().convertToFormat(QImage::Format_Grayscale8);
+    if (row.isNull()) return -1;
+    return numberInRow(row.constScanLine(0), row.width());
+}
+
 struct Capture {
     qint64 ms;
     int front, rear;
     bool settled;  // half a second or more after the latest command
 };
 
-// Both views read about 60 times a second. The players draw their pictures
-// on the interface thread, so two reads in one go see one moment.
+// Both views read from the screen about 60 times a second, one row each.
 class Recorder : public QObject {
 public:
     Recorder(OrvoAVView* front, OrvoAVView* rear) : front_(front), rear_(rear) {
         connect(&timer_, &QTimer::timeout, this, [this] {
             const qint64 now = clock_.elapsed();
-            captures.push_back({now, shownNumber(front_), shownNumber(rear_), now - commandAt_ >= 500});
+            captures.push_back({now, screenNumber(front_), screenNumber(rear_), now - commandAt_ >= 500});
         });
         timer_.setTimerType(Qt::PreciseTimer);
         clock_.start();

@@ -231,8 +231,8 @@ void MpvPlayer::setRate(float rate) {
         requestedRate_ = rate;
         emit rateRequested(rate);
     }
-    int pause = rate == 0.0f ? 1 : 0;
-    if (!pause) {
+    int pause = rate == 0.0f || held_ ? 1 : 0;
+    if (rate != 0.0f) {
         baseSpeed_ = std::fabs(rate);
         double speed = baseSpeed_ * trim_;
         const bool backward = rate < 0.0f;
@@ -243,6 +243,14 @@ void MpvPlayer::setRate(float rate) {
         }
         mpv_set_property_async(mpv_, 0, "speed", MPV_FORMAT_DOUBLE, &speed);
     }
+    mpv_set_property_async(mpv_, 0, "pause", MPV_FORMAT_FLAG, &pause);
+}
+
+void MpvPlayer::setHeld(bool held) {
+    if (!mpv_ || held == held_) return;
+    held_ = held;
+    if (!held) renderFrame();
+    int pause = requestedRate_ == 0.0f || held_ ? 1 : 0;
     mpv_set_property_async(mpv_, 0, "pause", MPV_FORMAT_FLAG, &pause);
 }
 
@@ -312,6 +320,24 @@ void MpvPlayer::setMuted(bool muted) {
 
 unsigned MpvPlayer::textureId() const { return hasFrame_ && fbo_ ? fbo_->texture() : 0; }
 QSize MpvPlayer::textureSize() const { return fbo_ ? fbo_->size() : QSize(); }
+
+void MpvPlayer::setShownSize(const void* viewer, QSize size) {
+    const QSize before = drawnSize();
+    if (size.isEmpty()) shownSizes_.remove(viewer);
+    else shownSizes_.insert(viewer, size);
+    // The picture that stands is drawn again at once at its new size.
+    if (drawnSize() != before) renderFrame();
+}
+
+QSize MpvPlayer::drawnSize() const {
+    const QSize full = !displaySize_.isEmpty() ? displaySize_ : videoSize_;
+    QSize shown;
+    for (const QSize& s : shownSizes_) shown = shown.expandedTo(s);
+    // Shown nowhere yet (opened ahead): at its own size, it fits any view.
+    if (full.isEmpty() || shown.isEmpty() || (full.width() <= shown.width() && full.height() <= shown.height()))
+        return full;
+    return full.scaled(shown, Qt::KeepAspectRatio).expandedTo(QSize(2, 2));
+}
 
 void MpvPlayer::processEvents() {
     // A handler may shut this player down (its owner moving on to the next
@@ -440,7 +466,9 @@ void MpvPlayer::handleTrackList(const mpv_node* tracks) {
 }
 
 void MpvPlayer::updateRate() {
-    rate_ = paused_ ? 0.0f : float(baseSpeed_) * (backward_ ? -1.0f : 1.0f);
+    // Held, it still counts as playing: no one is told of a pause for it.
+    const bool still = paused_ && !(held_ && requestedRate_ != 0.0f);
+    rate_ = still ? 0.0f : float(baseSpeed_) * (backward_ ? -1.0f : 1.0f);
     if (rate_ == reportedRate_) return;
     reportedRate_ = rate_;
     emit rateChanged(rate_);
@@ -449,7 +477,10 @@ void MpvPlayer::updateRate() {
 void MpvPlayer::renderFrame() {
     if (!render_) return;
     if (mpv_render_context_update(render_) & MPV_RENDER_UPDATE_FRAME) frameOwed_ = true;
-    const QSize size = !displaySize_.isEmpty() ? displaySize_ : videoSize_;
+    // Held, the picture found by a seek waits for the other player's, and
+    // both are drawn when both are let go; mpv waits for it meanwhile.
+    if (held_ && hasFrame_) return;
+    const QSize size = drawnSize();
     const bool resized = fbo_ && !size.isEmpty() && fbo_->size() != size;
     if (!frameOwed_ && !resized) return;
     ScopedCurrent current(gl_.get(), surface_.get());

@@ -13,6 +13,7 @@ VideoSurface::VideoSurface(QWidget* parent) : QOpenGLWidget(parent) {}
 MpvPlayer* VideoSurface::shownPlayer() const { return player_; }
 
 VideoSurface::~VideoSurface() {
+    if (player_) player_->setShownSize(this, QSize());
     makeCurrent();
     blitter_.reset();
     doneCurrent();
@@ -27,9 +28,30 @@ void VideoSurface::releaseGl() {
 void VideoSurface::showPlayer(MpvPlayer* player) {
     if (player_ == player) return;
     disconnect(frameConnection_);
+    if (player_) player_->setShownSize(this, QSize());
     player_ = player;
+    reportShownSize();
     if (player) frameConnection_ = connect(player, &MpvPlayer::frameRendered, this, qOverload<>(&QWidget::update));
     update();
+}
+
+void VideoSurface::reportShownSize() {
+    if (player_) player_->setShownSize(this, isVisible() ? size() * devicePixelRatioF() : QSize());
+}
+
+void VideoSurface::resizeEvent(QResizeEvent* event) {
+    QOpenGLWidget::resizeEvent(event);
+    reportShownSize();
+}
+
+void VideoSurface::showEvent(QShowEvent* event) {
+    QOpenGLWidget::showEvent(event);
+    reportShownSize();
+}
+
+void VideoSurface::hideEvent(QHideEvent* event) {
+    QOpenGLWidget::hideEvent(event);
+    reportShownSize();
 }
 
 void VideoSurface::setPictureVisible(bool visible) {
