@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "cardgen/video_maker.h"
+#include "cardgen/numbered_frames.h"
 #include "core/library/clip_catalogue.h"
 #include "ui/app/catalogue_controller.h"
 #include "ui/app/main_window.h"
@@ -29,48 +29,15 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kLoadMs = 30000;
-constexpr int kBits = 10;
 // The second pair of the trip counts on from here, so the seam shows.
 constexpr int kSecondPair = 512;
 constexpr int kLastFrame = 6 * 30 - 1;  // of a six-second pair
-
-// A clip whose frame N shows the number N + first.
-bool makeNumberedClip(const fs::path& path, int fps, double seconds, int first) {
-    const QString code = QString("geq=lum='if(mod(floor((N+%1)/pow(2,floor(X/32))),2),235,96)':cb=128:cr=128")
-                             .arg(first);
-    const QStringList args{"-v", "error", "-y", "-f", "lavfi", "-i",
-                           QString("color=c=black:s=320x180:r=%1:d=%2").arg(fps).arg(seconds), "-f", "lavfi", "-i",
-                           QString("sine=frequency=440:duration=%1").arg(seconds), "-vf", code, "-c:v", "libx264",
-                           "-crf", "18", "-g", QString::number(fps), "-pix_fmt", "yuv420p", "-c:a", "aac", "-shortest",
-                           QString::fromStdString(path.string())};
-    return QProcess::execute(QString::fromStdString(cardgen::ffmpegProgram()), args) == 0;
-}
-
-// The number in one row of grey pixels across a view, -1 when it shows none
-// (black, or between pictures): the picture is what is not black.
-int numberInRow(const uchar* row, int width) {
-    int left = -1, right = -1;
-    for (int x = 0; x < width; ++x) {
-        if (row[x] <= 40) continue;
-        if (left < 0) left = x;
-        right = x;
-    }
-    if (left < 0 || right - left < 2 * kBits) return -1;
-    const double bit = (right - left + 1) / double(kBits);
-    int number = 0;
-    for (int i = 0; i < kBits; ++i) {
-        const int g = row[left + int((i + 0.5) * bit)];
-        if (g > 170) number |= 1 << i;
-        else if (g < 50 || g > 140) return -1;
-    }
-    return number;
-}
 
 // The number a view draws, read from the view itself (for pictures that stand).
 int shownNumber(OrvoAVView* view) {
     const QImage image = view->grabFramebuffer().convertToFormat(QImage::Format_Grayscale8);
     if (image.isNull()) return -1;
-    return numberInRow(image.constScanLine(image.height() / 2), image.width());
+    return cardgen::numberInRow(image.constScanLine(image.height() / 2), image.width());
 }
 
 // The number a view shows on the screen, read from one row of the display
@@ -82,7 +49,7 @@ int screenNumber(OrvoAVView* view) {
     const QImage row =
         screen->grabWindow(0, at.x(), at.y(), view->width(), 1).toImage().convertToFormat(QImage::Format_Grayscale8);
     if (row.isNull()) return -1;
-    return numberInRow(row.constScanLine(0), row.width());
+    return cardgen::numberInRow(row.constScanLine(0), row.width());
 }
 
 struct Capture {
@@ -185,13 +152,13 @@ private slots:
         const fs::path rec = card_ / "cont_rec";
         fs::create_directories(rec);
         // A trip of two pairs, a pair of unequal clips, a front without its rear.
-        QVERIFY(makeNumberedClip(rec / "20261121_100000_F.mp4", 30, 6, 0));
-        QVERIFY(makeNumberedClip(rec / "20261121_100000_R.mp4", 30, 6, 0));
-        QVERIFY(makeNumberedClip(rec / "20261121_100100_F.mp4", 30, 6, kSecondPair));
-        QVERIFY(makeNumberedClip(rec / "20261121_100100_R.mp4", 30, 6, kSecondPair));
-        QVERIFY(makeNumberedClip(rec / "20261121_110000_F.mp4", 30, 6, 0));
-        QVERIFY(makeNumberedClip(rec / "20261121_110000_R.mp4", 25, 4, 0));
-        QVERIFY(makeNumberedClip(rec / "20261121_120000_F.mp4", 30, 3, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_100000_F.mp4", 30, 6, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_100000_R.mp4", 30, 6, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_100100_F.mp4", 30, 6, kSecondPair));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_100100_R.mp4", 30, 6, kSecondPair));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_110000_F.mp4", 30, 6, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_110000_R.mp4", 25, 4, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_120000_F.mp4", 30, 3, 0));
 
         window_ = std::make_unique<MainWindowController>();
         window_->showMainWindow();
