@@ -25,9 +25,10 @@ constexpr double kCatchUp = 0.2;
 constexpr double kHoldBeyond = 0.045;
 // The rear's last frame starts a frame before its end.
 constexpr double kEndMargin = 0.02;
-// A player's time is carried forward at most this far: a player that has
-// not reported for longer is stalled (a loaded machine), not playing on.
-constexpr double kMaxCarry = 0.1;
+// Times are compared only while both are this recent: a player that has not
+// reported for longer may be stalled (a loaded machine) rather than playing
+// on, and carrying its time forward would steer the rear by a guess.
+constexpr double kMaxCarry = 0.07;
 // A seek that took longer than this was held up by something else; aiming
 // that far ahead would leave the rear waiting for the front.
 constexpr double kMaxSeekLead = 0.3;
@@ -73,9 +74,7 @@ void FrontRearLock::lock(MpvPlayer* front, MpvPlayer* rear) {
     });
 }
 
-double FrontRearLock::sinceReport(qint64 at) const {
-    return std::min((clock_.elapsed() - at) / 1000.0, kMaxCarry);
-}
+double FrontRearLock::sinceReport(qint64 at) const { return (clock_.elapsed() - at) / 1000.0; }
 
 void FrontRearLock::release() {
     openGate();
@@ -165,6 +164,7 @@ void FrontRearLock::playWithFront(double frontTime) {
     if (rear_->requestedRate() != rate) rear_->setRate(rate);
     // Not yet playing, or a time from before a seek: nothing to compare.
     if (rear_->rate() == 0.0f || !frontFresh_ || !rearFresh_) return;
+    if (sinceReport(frontAt_) > kMaxCarry || sinceReport(rearAt_) > kMaxCarry) return;
     const double rearNow = rearTime_ + sinceReport(rearAt_) * rear_->rate();
     const double apart = frontTime - rearNow;
     if (std::fabs(apart) > kSeekBeyond) {

@@ -42,7 +42,7 @@ private:
     double rearTargetFor(double frontTime) const;
     bool pastRearEnd(double frontTime) const;
     void seekRear(double seconds);
-    // Seconds since a time was reported, as far as it may be carried forward.
+    // Seconds since a time was reported.
     double sinceReport(qint64 at) const;
     // Both stand still (still counting as playing) until both found their frame.
     void closeGate();
