@@ -19,9 +19,11 @@
 #include "ui/app/main_window.h"
 #include "ui/app/main_window_controller.h"
 #include "ui/app/main_window_views.h"
+#include "ui/library/playback/fullscreen_controller.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/player/orvo_av_view.h"
+#include "ui/library/player/orvo_qt_movie_view.h"
 
 using namespace tarvik;
 namespace fs = std::filesystem;
@@ -252,6 +254,36 @@ private slots:
         QVERIFY2(settled.worst <= 5, qPrintable(QString::number(settled.worst)));
         // Two frame periods, and what the captures, some 60 ms apart, cannot resolve.
         QVERIFY2(seam <= 2 * kPeriod + 90, qPrintable(QString::number(seam)));
+    }
+
+    // Full screen of the rear: the front, hidden behind it, plays on with it,
+    // and both views come back on one frame, with no seek needed.
+    void fullScreenKeepsOneTime() {
+        openPair("20261121_100000_F.mp4");
+        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+        FullScreenController& fs = playback().fullScreen();
+        QTest::mouseClick(small(), Qt::RightButton);
+        QVERIFY(fs.isFullScreenMode());
+        QTRY_VERIFY(fs.fullScreenWindow()->isVisible());
+        OrvoQTMovieView* mirror = fs.fullScreenMovieMirror();
+        QTRY_VERIFY_WITH_TIMEOUT(shownNumber(big()) > 30, 5000);
+        QVERIFY(!playback().isVideoPaused());
+        playback().playPauseButtonTouched();
+        QVERIFY(playback().isVideoPaused());
+        int number = -1;
+        QVERIFY2(pausedTogether(&number),
+                 qPrintable(QString("paused at %1/%2").arg(shownNumber(big())).arg(shownNumber(small()))));
+        const QImage full = mirror->grabFramebuffer().convertToFormat(QImage::Format_Grayscale8);
+        QCOMPARE(cardgen::numberInRow(full.constScanLine(full.height() / 2), full.width()), number);
+        QTest::keyClick(fs.fullScreenWindow(), Qt::Key_Escape);
+        QVERIFY(!fs.isFullScreenMode());
+        QVERIFY(pausedTogether(&number));
+        key(Qt::Key_Space);
+        QTRY_VERIFY_WITH_TIMEOUT(shownNumber(big()) > number + 10, 5000);
+        key(Qt::Key_Space);
+        number = -1;
+        QVERIFY(pausedTogether(&number));
+        QVERIFY(alerts_.isEmpty());
     }
 
     // Space and a step given while the clip still opens are kept.
