@@ -3,10 +3,40 @@
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QOpenGLTextureBlitter>
+#include <QApplication>
+#include <QTimer>
+#include <utility>
 
 #include "ui/library/player/mpv_player.h"
 
 namespace tarvik {
+
+namespace {
+
+// Every repaint of a GL widget composes its whole window again (on a
+// software renderer, the window's every pixel, twice). Two views playing in
+// step get their frames within a few milliseconds of each other: waiting
+// that long lets one composition show both, which also shows them together.
+constexpr int kGatherMs = 8;
+
+QList<QPointer<VideoSurface>>& gathered() {
+    static QList<QPointer<VideoSurface>> surfaces;
+    return surfaces;
+}
+
+}  // namespace
+
+void VideoSurface::repaintSoon() {
+    QList<QPointer<VideoSurface>>& list = gathered();
+    if (list.contains(this)) return;
+    list << this;
+    if (list.size() > 1) return;
+    QTimer::singleShot(kGatherMs, Qt::PreciseTimer, qApp, [] {
+        const QList<QPointer<VideoSurface>> due = std::exchange(gathered(), {});
+        for (const auto& s : due)
+            if (s) s->update();
+    });
+}
 
 VideoSurface::VideoSurface(QWidget* parent) : QOpenGLWidget(parent) {}
 
@@ -31,7 +61,7 @@ void VideoSurface::showPlayer(MpvPlayer* player) {
     if (player_) player_->setShownSize(this, QSize());
     player_ = player;
     reportShownSize();
-    if (player) frameConnection_ = connect(player, &MpvPlayer::frameRendered, this, qOverload<>(&QWidget::update));
+    if (player) frameConnection_ = connect(player, &MpvPlayer::frameRendered, this, &VideoSurface::repaintSoon);
     update();
 }
 

@@ -36,6 +36,8 @@ private:
     void releaseGl();
     // Tells the shown player how large its pictures are shown here.
     void reportShownSize();
+    // A new picture: shown with whatever other view has one a moment later.
+    void repaintSoon();
 
     QPointer<MpvPlayer> player_;
     QMetaObject::Connection frameConnection_;
