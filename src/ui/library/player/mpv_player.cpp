@@ -155,7 +155,7 @@ void MpvPlayer::shutdown() {
     if (!mpv_) return;
     // can reach a deleted object.
     mpv_set_wakeup_callback(mpv_, nullptr, nullptr);
-    if (render_ || fbo_) {
+    if (render_ || fbo_ || heldFbo_) {
         ScopedCurrent current(gl_.get(), surface_.get());
         if (render_) {
             mpv_render_context_set_update_callback(render_, nullptr, nullptr);
@@ -163,6 +163,7 @@ void MpvPlayer::shutdown() {
             render_ = nullptr;
         }
         fbo_.reset();
+        heldFbo_.reset();
     }
     gl_.reset();
     surface_.reset();
@@ -249,7 +250,11 @@ void MpvPlayer::setRate(float rate) {
 void MpvPlayer::setHeld(bool held) {
     if (!mpv_ || held == held_) return;
     held_ = held;
-    if (!held) renderFrame();
+    if (!held && repaintOwed_) {
+        repaintOwed_ = false;
+        std::swap(fbo_, heldFbo_);
+        emit frameRendered();
+    }
     int pause = requestedRate_ == 0.0f || held_ ? 1 : 0;
     mpv_set_property_async(mpv_, 0, "pause", MPV_FORMAT_FLAG, &pause);
 }
@@ -477,9 +482,6 @@ void MpvPlayer::updateRate() {
 void MpvPlayer::renderFrame() {
     if (!render_) return;
     if (mpv_render_context_update(render_) & MPV_RENDER_UPDATE_FRAME) frameOwed_ = true;
-    // Held, the picture found by a seek waits for the other player's, and
-    // both are drawn when both are let go; mpv waits for it meanwhile.
-    if (held_ && hasFrame_) return;
     const QSize size = drawnSize();
     const bool resized = fbo_ && !size.isEmpty() && fbo_->size() != size;
     if (!frameOwed_ && !resized) return;
@@ -490,15 +492,18 @@ void MpvPlayer::renderFrame() {
     // and owed again at its size.
     const QSize drawn = size.isEmpty() ? QSize(16, 16) : size;
     QOpenGLFunctions* f = gl_->functions();
-    if (!fbo_ || fbo_->size() != drawn) {
-        fbo_ = std::make_unique<QOpenGLFramebufferObject>(drawn);
+    // Held, a new picture goes into a second texture, the shown one stays.
+    const bool aside = held_ && hasFrame_;
+    std::unique_ptr<QOpenGLFramebufferObject>& fbo = aside ? heldFbo_ : fbo_;
+    if (!fbo || fbo->size() != drawn) {
+        fbo = std::make_unique<QOpenGLFramebufferObject>(drawn);
         // Views are usually smaller than the video: filter when scaling down.
-        f->glBindTexture(GL_TEXTURE_2D, fbo_->texture());
+        f->glBindTexture(GL_TEXTURE_2D, fbo->texture());
         f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
         f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
         f->glBindTexture(GL_TEXTURE_2D, 0);
     }
-    mpv_opengl_fbo target{int(fbo_->handle()), drawn.width(), drawn.height(), 0};
+    mpv_opengl_fbo target{int(fbo->handle()), drawn.width(), drawn.height(), 0};
     int flip = 0;
     mpv_render_param params[] = {{MPV_RENDER_PARAM_OPENGL_FBO, &target},
                                  {MPV_RENDER_PARAM_FLIP_Y, &flip},
@@ -511,6 +516,12 @@ void MpvPlayer::renderFrame() {
     const bool first = !hasFrame_;
     hasFrame_ = true;
     if (first) emit firstFrameRendered();
+    // Held, the picture found by a seek is drawn (mpv's seek ends only once
+    // it is) but not shown until the other player's is there too.
+    if (aside) {
+        repaintOwed_ = true;
+        return;
+    }
     emit frameRendered();
 }
 

@@ -51,9 +51,9 @@ public:
     // the rate reported changing: how a follower catches up with its leader.
     void setSpeedTrim(double trim);
     // Holds the picture still without it counting as a pause: the rate
-    // asked for and reported stay, and a new picture is drawn only when let
-    // go. Two players started by one command are held until both have found
-    // their frame, then let go together.
+    // asked for and reported stay, and a new picture is drawn aside and
+    // shown only when let go. Two players started by one
+    // command are held until both have found their frame, then let go together.
     void setHeld(bool held);
     bool isHeld() const { return held_; }
     void seekExact(double seconds);
@@ -119,6 +119,7 @@ private:
     std::unique_ptr<QOpenGLContext> gl_;
     std::unique_ptr<QOffscreenSurface> surface_;
     std::unique_ptr<QOpenGLFramebufferObject> fbo_;
+    std::unique_ptr<QOpenGLFramebufferObject> heldFbo_;  // drawn while held, shown when let go
     bool hasFrame_ = false;
     bool retiring_ = false;
     bool frameOwed_ = false;  // mpv has a frame not yet drawn at the picture's size
@@ -147,6 +148,7 @@ private:
     bool eof_ = false;
     bool paused_ = true;
     bool held_ = false;
+    bool repaintOwed_ = false;  // a picture drawn while held, not yet announced
     bool backward_ = false;
     double baseSpeed_ = 1.0;  // the speed asked for, without the trim
     double trim_ = 1.0;
