@@ -1,5 +1,8 @@
 #include "ui/library/player/mpv_player.h"
 
+#include "ui/library/player/mpv_track_list.h"
+#include "ui/library/player/scoped_gl_current.h"
+
 #include <QFile>
 #include <mpv/client.h>
 #include <mpv/render_gl.h>
@@ -37,51 +40,6 @@ constexpr uint64_t kFirstSeekReply = 1000;
 void* glProcAddress(void*, const char* name) {
     QOpenGLContext* ctx = QOpenGLContext::currentContext();
     return ctx ? reinterpret_cast<void*>(ctx->getProcAddress(name)) : nullptr;
-}
-
-// Keeps whatever context the caller had current (a widget may be painting).
-class ScopedCurrent {
-public:
-    ScopedCurrent(QOpenGLContext* ctx, QSurface* surface)
-        : prev_(QOpenGLContext::currentContext()), prevSurface_(prev_ ? prev_->surface() : nullptr), ctx_(ctx) {
-        ok_ = ctx_->makeCurrent(surface);
-    }
-    ~ScopedCurrent() {
-        if (prev_ && prev_ != ctx_) prev_->makeCurrent(prevSurface_);
-        else if (!prev_) ctx_->doneCurrent();
-    }
-    bool ok() const { return ok_; }
-
-private:
-    QOpenGLContext* prev_;
-    QSurface* prevSurface_;
-    QOpenGLContext* ctx_;
-    bool ok_ = false;
-};
-
-QSize nodeTrackSize(const mpv_node& list, bool* anyVideo) {
-    QSize size;
-    if (list.format != MPV_FORMAT_NODE_ARRAY) return size;
-    for (int i = 0; i < list.u.list->num; ++i) {
-        const mpv_node& t = list.u.list->values[i];
-        if (t.format != MPV_FORMAT_NODE_MAP) continue;
-        QString type;
-        bool selected = false, image = false;
-        qint64 w = 0, h = 0;
-        for (int k = 0; k < t.u.list->num; ++k) {
-            const char* key = t.u.list->keys[k];
-            const mpv_node& v = t.u.list->values[k];
-            if (!qstrcmp(key, "type") && v.format == MPV_FORMAT_STRING) type = QString::fromUtf8(v.u.string);
-            else if (!qstrcmp(key, "selected") && v.format == MPV_FORMAT_FLAG) selected = v.u.flag;
-            else if (!qstrcmp(key, "albumart") && v.format == MPV_FORMAT_FLAG) image = v.u.flag;
-            else if (!qstrcmp(key, "demux-w") && v.format == MPV_FORMAT_INT64) w = v.u.int64;
-            else if (!qstrcmp(key, "demux-h") && v.format == MPV_FORMAT_INT64) h = v.u.int64;
-        }
-        if (type != "video" || image) continue;
-        *anyVideo = true;
-        if (selected && size.isEmpty() && w > 0 && h > 0) size = QSize(int(w), int(h));
-    }
-    return size;
 }
 
 }  // namespace
@@ -137,7 +95,7 @@ bool MpvPlayer::initGl() {
     surface_ = std::make_unique<QOffscreenSurface>();
     surface_->setFormat(gl_->format());
     surface_->create();
-    ScopedCurrent current(gl_.get(), surface_.get());
+    ScopedGlCurrent current(gl_.get(), surface_.get());
     if (!current.ok()) return false;
     mpv_opengl_init_params glInit{&glProcAddress, nullptr};
     mpv_render_param params[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_OPENGL)},
@@ -156,7 +114,7 @@ void MpvPlayer::shutdown() {
     // can reach a deleted object.
     mpv_set_wakeup_callback(mpv_, nullptr, nullptr);
     if (render_ || fbo_ || heldFbo_) {
-        ScopedCurrent current(gl_.get(), surface_.get());
+        ScopedGlCurrent current(gl_.get(), surface_.get());
         if (render_) {
             mpv_render_context_set_update_callback(render_, nullptr, nullptr);
             mpv_render_context_free(render_);
@@ -462,7 +420,7 @@ void MpvPlayer::handleFileLoaded() {
 
 void MpvPlayer::handleTrackList(const mpv_node* tracks) {
     bool anyVideo = false;
-    if (tracks) videoSize_ = nodeTrackSize(*tracks, &anyVideo);
+    if (tracks) videoSize_ = videoTrackSize(*tracks, &anyVideo);
     opening_ = false;
     loaded_ = true;
     hasVideo_ = anyVideo;
@@ -485,7 +443,7 @@ void MpvPlayer::renderFrame() {
     const QSize size = drawnSize();
     const bool resized = fbo_ && !size.isEmpty() && fbo_->size() != size;
     if (!frameOwed_ && !resized) return;
-    ScopedCurrent current(gl_.get(), surface_.get());
+    ScopedGlCurrent current(gl_.get(), surface_.get());
     if (!current.ok()) return;
     // mpv's video thread waits (up to 200 ms) for each new frame to be drawn,
     // so a frame that comes before its size is known is drawn small at once
