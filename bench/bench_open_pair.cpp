@@ -159,7 +159,9 @@ private:
         p.surface->setFormat(p.gl->format());
         p.surface->create();
         p.gl->makeCurrent(p.surface.get());
-        p.fbo = std::make_unique<QOpenGLFramebufferObject>(1920, 1080);
+        // About the size of one of the viewer's views: the viewer's players
+        // draw at the size they are shown, and so would any plain player.
+        p.fbo = std::make_unique<QOpenGLFramebufferObject>(640, 360);
         mpv_opengl_init_params init{&PlainMpvPair::procAddress, nullptr};
         mpv_render_param params[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_OPENGL)},
                                      {MPV_RENDER_PARAM_OPENGL_INIT_PARAMS, &init},
@@ -276,7 +278,7 @@ int main(int argc, char** argv) {
     }
     const double o = median(ours), b = median(base);
     std::printf("median: double-click to both first frames %.3f s, two plain libmpv opens %.3f s\n", o, b);
-    bench::tableRow("double-click to both first frames / two plain libmpv opens", o / b, "<= 1.2", o / b <= 1.2);
+    bench::tableRow("double-click to both first frames / two plain libmpv opens", o / b, "<= 1.0", o / b <= 1.0);
     char note[64];
     std::snprintf(note, sizeof note, "%.3f s against %.2f s before", o, kEarlierOpenSeconds);
     bench::tableRow("double-click to both first frames / earlier open", o / kEarlierOpenSeconds, "<= 0.5",

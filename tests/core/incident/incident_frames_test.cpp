@@ -11,7 +11,7 @@
 #include <optional>
 #include <vector>
 
-#include "cardgen/numbered_video.h"
+#include "cardgen/numbered_frames.h"
 #include "core/library/incident/incident_exporter.h"
 #include "core/util/process_runner.h"
 
@@ -34,10 +34,7 @@ struct NumberedDrive {
         fs::create_directories(rec);
         for (const auto& [name, first] : {std::pair{"20261121_100000", 0}, std::pair{"20261121_100006", kSecondPair}})
             for (const char* camera : {"_F.mp4", "_R.mp4"}) {
-                std::string log;
-                EXPECT_TRUE(cardgen::makeNumberedClip(rec / (std::string(name) + camera), kFps, kClipSeconds, first,
-                                                      &log))
-                    << log;
+                EXPECT_TRUE(cardgen::makeNumberedClip(rec / (std::string(name) + camera), kFps, kClipSeconds, first));
             }
     }
     ~NumberedDrive() { fs::remove_all(root); }

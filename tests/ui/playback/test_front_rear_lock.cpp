@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QScreen>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -12,15 +13,17 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "cardgen/numbered_video.h"
+#include "cardgen/numbered_frames.h"
 #include "core/library/clip_catalogue.h"
 #include "ui/shell/catalogue_controller.h"
 #include "ui/shell/main_window.h"
 #include "ui/shell/main_window_controller.h"
 #include "ui/shell/main_window_views.h"
+#include "ui/library/playback/fullscreen_controller.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/seek_slider_controller.h"
 #include "ui/library/player/orvo_av_view.h"
+#include "ui/library/player/orvo_qt_movie_view.h"
 
 using namespace tarvik;
 namespace fs = std::filesystem;
@@ -32,14 +35,23 @@ constexpr int kLoadMs = 30000;
 constexpr int kSecondPair = 512;
 constexpr int kLastFrame = 6 * 30 - 1;  // of a six-second pair
 
-using cardgen::makeNumberedClip;
-using cardgen::numberInRow;
-
 // The number a view draws, read from the view itself (for pictures that stand).
 int shownNumber(OrvoAVView* view) {
     const QImage image = view->grabFramebuffer().convertToFormat(QImage::Format_Grayscale8);
     if (image.isNull()) return -1;
-    return numberInRow(image.constScanLine(image.height() / 2), image.width());
+    return cardgen::numberInRow(image.constScanLine(image.height() / 2), image.width());
+}
+
+// The number a view shows on the screen, read from one row of the display
+// across its middle: what was presented, as a screen recording sees it.
+int screenNumber(OrvoAVView* view) {
+    QScreen* screen = view->screen();
+    if (!screen || !view->isVisible()) return -1;
+    const QPoint at = view->mapToGlobal(QPoint(0, view->height() / 2)) - screen->geometry().topLeft();
+    const QImage row =
+        screen->grabWindow(0, at.x(), at.y(), view->width(), 1).toImage().convertToFormat(QImage::Format_Grayscale8);
+    if (row.isNull()) return -1;
+    return cardgen::numberInRow(row.constScanLine(0), row.width());
 }
 
 struct Capture {
@@ -48,14 +60,13 @@ struct Capture {
     bool settled;  // half a second or more after the latest command
 };
 
-// Both views read about 60 times a second. The players draw their pictures
-// on the interface thread, so two reads in one go see one moment.
+// Both views read from the screen about 60 times a second, one row each.
 class Recorder : public QObject {
 public:
     Recorder(OrvoAVView* front, OrvoAVView* rear) : front_(front), rear_(rear) {
         connect(&timer_, &QTimer::timeout, this, [this] {
             const qint64 now = clock_.elapsed();
-            captures.push_back({now, shownNumber(front_), shownNumber(rear_), now - commandAt_ >= 500});
+            captures.push_back({now, screenNumber(front_), screenNumber(rear_), now - commandAt_ >= 500});
         });
         timer_.setTimerType(Qt::PreciseTimer);
         clock_.start();
@@ -143,13 +154,13 @@ private slots:
         const fs::path rec = card_ / "cont_rec";
         fs::create_directories(rec);
         // A trip of two pairs, a pair of unequal clips, a front without its rear.
-        QVERIFY(makeNumberedClip(rec / "20261121_100000_F.mp4", 30, 6, 0));
-        QVERIFY(makeNumberedClip(rec / "20261121_100000_R.mp4", 30, 6, 0));
-        QVERIFY(makeNumberedClip(rec / "20261121_100100_F.mp4", 30, 6, kSecondPair));
-        QVERIFY(makeNumberedClip(rec / "20261121_100100_R.mp4", 30, 6, kSecondPair));
-        QVERIFY(makeNumberedClip(rec / "20261121_110000_F.mp4", 30, 6, 0));
-        QVERIFY(makeNumberedClip(rec / "20261121_110000_R.mp4", 25, 4, 0));
-        QVERIFY(makeNumberedClip(rec / "20261121_120000_F.mp4", 30, 3, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_100000_F.mp4", 30, 6, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_100000_R.mp4", 30, 6, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_100100_F.mp4", 30, 6, kSecondPair));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_100100_R.mp4", 30, 6, kSecondPair));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_110000_F.mp4", 30, 6, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_110000_R.mp4", 25, 4, 0));
+        QVERIFY(cardgen::makeNumberedClip(rec / "20261121_120000_F.mp4", 30, 3, 0));
 
         window_ = std::make_unique<MainWindowController>();
         window_->showMainWindow();
@@ -236,13 +247,44 @@ private slots:
 
         QVERIFY(alerts_.isEmpty());
         QVERIFY2(s.read > int(playing.size()) * 9 / 10, "the screen rows could not be read");
-        // Under this load (the reads themselves take the interface thread a
-        // good part of each frame) the views are not always within one frame:
-        // what is held here is that they never drift apart.
-        QVERIFY2(settled.share() >= 0.6, qPrintable(QString::number(100.0 * settled.share())));
-        QVERIFY2(settled.worst <= 5, qPrintable(QString::number(settled.worst)));
+        // On a shared two-core machine the interface thread, which draws both
+        // players, is itself starved at times and the views are then a frame
+        // or two apart for a moment; what is held here is that they never
+        // drift apart.
+        QVERIFY2(settled.share() >= 0.85, qPrintable(QString::number(100.0 * settled.share())));
+        QVERIFY2(settled.worst <= 4, qPrintable(QString::number(settled.worst)));
         // Two frame periods, and what the captures, some 60 ms apart, cannot resolve.
         QVERIFY2(seam <= 2 * kPeriod + 90, qPrintable(QString::number(seam)));
+    }
+
+    // Full screen of the rear: the front, hidden behind it, plays on with it,
+    // and both views come back on one frame, with no seek needed.
+    void fullScreenKeepsOneTime() {
+        openPair("20261121_100000_F.mp4");
+        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+        FullScreenController& fs = playback().fullScreen();
+        QTest::mouseClick(small(), Qt::RightButton);
+        QVERIFY(fs.isFullScreenMode());
+        QTRY_VERIFY(fs.fullScreenWindow()->isVisible());
+        OrvoQTMovieView* mirror = fs.fullScreenMovieMirror();
+        QTRY_VERIFY_WITH_TIMEOUT(shownNumber(big()) > 30, 5000);
+        QVERIFY(!playback().isVideoPaused());
+        playback().playPauseButtonTouched();
+        QVERIFY(playback().isVideoPaused());
+        int number = -1;
+        QVERIFY2(pausedTogether(&number),
+                 qPrintable(QString("paused at %1/%2").arg(shownNumber(big())).arg(shownNumber(small()))));
+        const QImage full = mirror->grabFramebuffer().convertToFormat(QImage::Format_Grayscale8);
+        QCOMPARE(cardgen::numberInRow(full.constScanLine(full.height() / 2), full.width()), number);
+        QTest::keyClick(fs.fullScreenWindow(), Qt::Key_Escape);
+        QVERIFY(!fs.isFullScreenMode());
+        QVERIFY(pausedTogether(&number));
+        key(Qt::Key_Space);
+        QTRY_VERIFY_WITH_TIMEOUT(shownNumber(big()) > number + 10, 5000);
+        key(Qt::Key_Space);
+        number = -1;
+        QVERIFY(pausedTogether(&number));
+        QVERIFY(alerts_.isEmpty());
     }
 
     // Space and a step given while the clip still opens are kept.

@@ -306,6 +306,36 @@ private slots:
         QVERIFY(noVideo && noVideo->isVisible());
     }
 
+    // On a software renderer drawing a picture larger than it is shown costs
+    // more than decoding it: the player draws at the largest size any view
+    // shows it at, never above the clip's own.
+    void picturesAreDrawnAtTheSizeShown() {
+        OrvoAVView view;
+        view.resize(176, 104);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        view.setFileName(front_);
+        QTRY_VERIFY_WITH_TIMEOUT(view.showsPicture(), kWaitMs);
+        MpvPlayer* player = view.player();
+        QTRY_COMPARE(player->textureSize(), QSize(176, 104));
+        {
+            OrvoQTMovieView mirror;  // full screen shows the same player larger
+            mirror.setMovieSource(&view);
+            mirror.resize(800, 600);
+            mirror.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&mirror));
+            QTRY_COMPARE(player->textureSize(), QSize(352, 208));
+            QTRY_VERIFY(mirror.grabFramebuffer().pixelColor(400, 300).value() > 0);
+        }
+        QTRY_COMPARE(player->textureSize(), QSize(176, 104));
+        view.resize(88, 52);
+        QTRY_COMPARE(player->textureSize(), QSize(88, 52));
+        // A wider view: the picture keeps its shape.
+        view.resize(300, 52);
+        QTRY_COMPARE(player->textureSize(), QSize(88, 52));
+        view.close();
+    }
+
     void mouseRequests() {
         rec_.fullscreens.clear();
         QTest::mouseClick(big_, Qt::RightButton);

@@ -25,10 +25,23 @@ constexpr double kCatchUp = 0.2;
 constexpr double kHoldBeyond = 0.045;
 // The rear's last frame starts a frame before its end.
 constexpr double kEndMargin = 0.02;
+// Times are compared only while both are this recent: a player that has not
+// reported for longer may be stalled (a loaded machine) rather than playing
+// on, and carrying its time forward would steer the rear by a guess.
+constexpr double kMaxCarry = 0.07;
+// A seek that took longer than this was held up by something else; aiming
+// that far ahead would leave the rear waiting for the front.
+constexpr double kMaxSeekLead = 0.3;
+// A player that has not found its frame by then (a stuck demuxer) does not
+// keep the other one waiting longer.
+constexpr int kGateMs = 400;
 
 }  // namespace
 
-FrontRearLock::FrontRearLock(QObject* parent) : QObject(parent) {}
+FrontRearLock::FrontRearLock(QObject* parent) : QObject(parent), gateTimer_(new QTimer(this)) {
+    gateTimer_->setSingleShot(true);
+    connect(gateTimer_, &QTimer::timeout, this, &FrontRearLock::openGate);
+}
 
 MpvPlayer* FrontRearLock::front() const { return front_; }
 MpvPlayer* FrontRearLock::rear() const { return rear_; }
@@ -53,14 +66,18 @@ void FrontRearLock::lock(MpvPlayer* front, MpvPlayer* rear) {
     connections_ << connect(rear, &MpvPlayer::loaded, this, &FrontRearLock::follow);
     connections_ << connect(rear, &MpvPlayer::timeChanged, this, &FrontRearLock::onRearTime);
     connections_ << connect(rear, &MpvPlayer::seeked, this, [this] {
-        if (seekSentAt_ >= 0 && front_ && front_->requestedRate() != 0.0f)
-            seekLead_ = std::clamp((clock_.elapsed() - seekSentAt_) / 1000.0, 0.02, 1.0);
+        // A seek made while both were held took as long as the wait, not the seek.
+        if (seekSentAt_ >= 0 && !gated_ && front_ && front_->requestedRate() != 0.0f)
+            seekLead_ = std::clamp((clock_.elapsed() - seekSentAt_) / 1000.0, 0.02, kMaxSeekLead);
         seekSentAt_ = -1;
         follow();
     });
 }
 
+double FrontRearLock::sinceReport(qint64 at) const { return (clock_.elapsed() - at) / 1000.0; }
+
 void FrontRearLock::release() {
+    openGate();
     for (const auto& c : connections_) disconnect(c);
     connections_.clear();
     if (rear_) rear_->setSpeedTrim(1.0);
@@ -86,7 +103,13 @@ void FrontRearLock::mirrorRate(float rate) {
     if (!rear_) return;
     lastTarget_ = -1.0;
     offset_ = 0.0;
+    // A time reported while standing would be carried forward over the
+    // whole pause: only times reported since count.
+    frontFresh_ = rearFresh_ = false;
     rear_->setSpeedTrim(1.0);
+    if (rate == 0.0f) openGate();
+    // Started while a seek is still on its way: both start once both are there.
+    else if (front_ && (front_->isSeeking() || rear_->isSeeking())) closeGate();
     // Past its end the rear keeps showing its last picture.
     if (rate != 0.0f && pastRearEnd(frontTime_)) return;
     rear_->setRate(rate);
@@ -99,19 +122,26 @@ void FrontRearLock::mirrorSeek(double seconds) {
     frontFresh_ = false;
     offset_ = 0.0;
     rear_->setSpeedTrim(1.0);
+    const float rate = front_ ? front_->requestedRate() : 0.0f;
+    // Whichever finds its frame first would otherwise play on alone.
+    if (rate != 0.0f) closeGate();
     seekRear(rearTargetFor(seconds));
     // mpv pauses a player at the end of its file; back before the end, the
     // rear plays on with the front.
-    const float rate = front_ ? front_->requestedRate() : 0.0f;
     if (rate != 0.0f && !pastRearEnd(seconds)) rear_->setRate(rate);
 }
 
 void FrontRearLock::follow() {
     if (!front_ || !rear_ || !front_->isLoaded() || !rear_->isLoaded() || front_->isSeeking()) return;
+    if (gated_) {
+        // A rear at its end shows its last picture: nothing to wait for.
+        if (rear_->isSeeking() && !pastRearEnd(frontTime_)) return;
+        openGate();
+    }
     const float rate = front_->requestedRate();
     if (rate == 0.0f) return standWithFront(frontTime_);
     double now = frontTime_;
-    if (front_->rate() != 0.0f) now += (clock_.elapsed() - frontAt_) / 1000.0 * front_->rate();
+    if (front_->rate() != 0.0f) now += sinceReport(frontAt_) * front_->rate();
     playWithFront(now);
 }
 
@@ -134,7 +164,8 @@ void FrontRearLock::playWithFront(double frontTime) {
     if (rear_->requestedRate() != rate) rear_->setRate(rate);
     // Not yet playing, or a time from before a seek: nothing to compare.
     if (rear_->rate() == 0.0f || !frontFresh_ || !rearFresh_) return;
-    const double rearNow = rearTime_ + (clock_.elapsed() - rearAt_) / 1000.0 * rear_->rate();
+    if (sinceReport(frontAt_) > kMaxCarry || sinceReport(rearAt_) > kMaxCarry) return;
+    const double rearNow = rearTime_ + sinceReport(rearAt_) * rear_->rate();
     const double apart = frontTime - rearNow;
     if (std::fabs(apart) > kSeekBeyond) {
         offset_ = 0.0;
@@ -172,6 +203,24 @@ double FrontRearLock::rearTargetFor(double frontTime) const {
 bool FrontRearLock::pastRearEnd(double frontTime) const {
     const double end = rear_ ? rear_->duration() : 0.0;
     return end > 0.0 && frontTime >= end - kEndMargin;
+}
+
+void FrontRearLock::closeGate() {
+    if (!front_ || !rear_) return;
+    gated_ = true;
+    front_->setHeld(true);
+    rear_->setHeld(true);
+    gateTimer_->start(kGateMs);
+}
+
+void FrontRearLock::openGate() {
+    gateTimer_->stop();
+    if (!gated_) return;
+    gated_ = false;
+    // Times from before the wait would be carried forward over it.
+    frontFresh_ = rearFresh_ = false;
+    if (rear_) rear_->setHeld(false);
+    if (front_) front_->setHeld(false);
 }
 
 void FrontRearLock::seekRear(double seconds) {

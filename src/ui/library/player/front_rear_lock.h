@@ -4,12 +4,16 @@
 // the rear is asked at once; whenever the front stands still (paused, a
 // frame step, a seek done) the rear is seeked exactly to the front's frame;
 // while both play, the rear runs a little faster or slower until it is level
-// again. A rear that ends sooner holds its last picture meanwhile.
+// again. A seek while playing holds both pictures until both players have
+// found their frame, then lets both go together. A rear that ends sooner
+// holds its last picture meanwhile.
 
 #include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QPointer>
+
+class QTimer;
 
 namespace tarvik {
 
@@ -38,6 +42,11 @@ private:
     double rearTargetFor(double frontTime) const;
     bool pastRearEnd(double frontTime) const;
     void seekRear(double seconds);
+    // Seconds since a time was reported.
+    double sinceReport(qint64 at) const;
+    // Both stand still (still counting as playing) until both found their frame.
+    void closeGate();
+    void openGate();
 
     QPointer<MpvPlayer> front_;
     QPointer<MpvPlayer> rear_;
@@ -57,6 +66,8 @@ private:
     qint64 holdUntil_ = 0;  // the rear stands still until then, waiting for the front
     qint64 seekSentAt_ = -1;
     double seekLead_ = 0.1;  // how long a seek of the rear took while playing
+    bool gated_ = false;
+    QTimer* gateTimer_;
 };
 
 }  // namespace tarvik

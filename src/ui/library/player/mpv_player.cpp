@@ -1,5 +1,8 @@
 #include "ui/library/player/mpv_player.h"
 
+#include "ui/library/player/mpv_track_list.h"
+#include "ui/library/player/scoped_gl_current.h"
+
 #include <QFile>
 #include <mpv/client.h>
 #include <mpv/render_gl.h>
@@ -37,51 +40,6 @@ constexpr uint64_t kFirstSeekReply = 1000;
 void* glProcAddress(void*, const char* name) {
     QOpenGLContext* ctx = QOpenGLContext::currentContext();
     return ctx ? reinterpret_cast<void*>(ctx->getProcAddress(name)) : nullptr;
-}
-
-// Keeps whatever context the caller had current (a widget may be painting).
-class ScopedCurrent {
-public:
-    ScopedCurrent(QOpenGLContext* ctx, QSurface* surface)
-        : prev_(QOpenGLContext::currentContext()), prevSurface_(prev_ ? prev_->surface() : nullptr), ctx_(ctx) {
-        ok_ = ctx_->makeCurrent(surface);
-    }
-    ~ScopedCurrent() {
-        if (prev_ && prev_ != ctx_) prev_->makeCurrent(prevSurface_);
-        else if (!prev_) ctx_->doneCurrent();
-    }
-    bool ok() const { return ok_; }
-
-private:
-    QOpenGLContext* prev_;
-    QSurface* prevSurface_;
-    QOpenGLContext* ctx_;
-    bool ok_ = false;
-};
-
-QSize nodeTrackSize(const mpv_node& list, bool* anyVideo) {
-    QSize size;
-    if (list.format != MPV_FORMAT_NODE_ARRAY) return size;
-    for (int i = 0; i < list.u.list->num; ++i) {
-        const mpv_node& t = list.u.list->values[i];
-        if (t.format != MPV_FORMAT_NODE_MAP) continue;
-        QString type;
-        bool selected = false, image = false;
-        qint64 w = 0, h = 0;
-        for (int k = 0; k < t.u.list->num; ++k) {
-            const char* key = t.u.list->keys[k];
-            const mpv_node& v = t.u.list->values[k];
-            if (!qstrcmp(key, "type") && v.format == MPV_FORMAT_STRING) type = QString::fromUtf8(v.u.string);
-            else if (!qstrcmp(key, "selected") && v.format == MPV_FORMAT_FLAG) selected = v.u.flag;
-            else if (!qstrcmp(key, "albumart") && v.format == MPV_FORMAT_FLAG) image = v.u.flag;
-            else if (!qstrcmp(key, "demux-w") && v.format == MPV_FORMAT_INT64) w = v.u.int64;
-            else if (!qstrcmp(key, "demux-h") && v.format == MPV_FORMAT_INT64) h = v.u.int64;
-        }
-        if (type != "video" || image) continue;
-        *anyVideo = true;
-        if (selected && size.isEmpty() && w > 0 && h > 0) size = QSize(int(w), int(h));
-    }
-    return size;
 }
 
 }  // namespace
@@ -137,7 +95,7 @@ bool MpvPlayer::initGl() {
     surface_ = std::make_unique<QOffscreenSurface>();
     surface_->setFormat(gl_->format());
     surface_->create();
-    ScopedCurrent current(gl_.get(), surface_.get());
+    ScopedGlCurrent current(gl_.get(), surface_.get());
     if (!current.ok()) return false;
     mpv_opengl_init_params glInit{&glProcAddress, nullptr};
     mpv_render_param params[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_OPENGL)},
@@ -155,14 +113,15 @@ void MpvPlayer::shutdown() {
     if (!mpv_) return;
     // can reach a deleted object.
     mpv_set_wakeup_callback(mpv_, nullptr, nullptr);
-    if (render_ || fbo_) {
-        ScopedCurrent current(gl_.get(), surface_.get());
+    if (render_ || fbo_ || heldFbo_) {
+        ScopedGlCurrent current(gl_.get(), surface_.get());
         if (render_) {
             mpv_render_context_set_update_callback(render_, nullptr, nullptr);
             mpv_render_context_free(render_);
             render_ = nullptr;
         }
         fbo_.reset();
+        heldFbo_.reset();
     }
     gl_.reset();
     surface_.reset();
@@ -231,8 +190,8 @@ void MpvPlayer::setRate(float rate) {
         requestedRate_ = rate;
         emit rateRequested(rate);
     }
-    int pause = rate == 0.0f ? 1 : 0;
-    if (!pause) {
+    int pause = rate == 0.0f || held_ ? 1 : 0;
+    if (rate != 0.0f) {
         baseSpeed_ = std::fabs(rate);
         double speed = baseSpeed_ * trim_;
         const bool backward = rate < 0.0f;
@@ -243,6 +202,18 @@ void MpvPlayer::setRate(float rate) {
         }
         mpv_set_property_async(mpv_, 0, "speed", MPV_FORMAT_DOUBLE, &speed);
     }
+    mpv_set_property_async(mpv_, 0, "pause", MPV_FORMAT_FLAG, &pause);
+}
+
+void MpvPlayer::setHeld(bool held) {
+    if (!mpv_ || held == held_) return;
+    held_ = held;
+    if (!held && repaintOwed_) {
+        repaintOwed_ = false;
+        std::swap(fbo_, heldFbo_);
+        emit frameRendered();
+    }
+    int pause = requestedRate_ == 0.0f || held_ ? 1 : 0;
     mpv_set_property_async(mpv_, 0, "pause", MPV_FORMAT_FLAG, &pause);
 }
 
@@ -312,6 +283,24 @@ void MpvPlayer::setMuted(bool muted) {
 
 unsigned MpvPlayer::textureId() const { return hasFrame_ && fbo_ ? fbo_->texture() : 0; }
 QSize MpvPlayer::textureSize() const { return fbo_ ? fbo_->size() : QSize(); }
+
+void MpvPlayer::setShownSize(const void* viewer, QSize size) {
+    const QSize before = drawnSize();
+    if (size.isEmpty()) shownSizes_.remove(viewer);
+    else shownSizes_.insert(viewer, size);
+    // The picture that stands is drawn again at once at its new size.
+    if (drawnSize() != before) renderFrame();
+}
+
+QSize MpvPlayer::drawnSize() const {
+    const QSize full = !displaySize_.isEmpty() ? displaySize_ : videoSize_;
+    QSize shown;
+    for (const QSize& s : shownSizes_) shown = shown.expandedTo(s);
+    // Shown nowhere yet (opened ahead): at its own size, it fits any view.
+    if (full.isEmpty() || shown.isEmpty() || (full.width() <= shown.width() && full.height() <= shown.height()))
+        return full;
+    return full.scaled(shown, Qt::KeepAspectRatio).expandedTo(QSize(2, 2));
+}
 
 void MpvPlayer::processEvents() {
     // A handler may shut this player down (its owner moving on to the next
@@ -431,7 +420,7 @@ void MpvPlayer::handleFileLoaded() {
 
 void MpvPlayer::handleTrackList(const mpv_node* tracks) {
     bool anyVideo = false;
-    if (tracks) videoSize_ = nodeTrackSize(*tracks, &anyVideo);
+    if (tracks) videoSize_ = videoTrackSize(*tracks, &anyVideo);
     opening_ = false;
     loaded_ = true;
     hasVideo_ = anyVideo;
@@ -440,7 +429,9 @@ void MpvPlayer::handleTrackList(const mpv_node* tracks) {
 }
 
 void MpvPlayer::updateRate() {
-    rate_ = paused_ ? 0.0f : float(baseSpeed_) * (backward_ ? -1.0f : 1.0f);
+    // Held, it still counts as playing: no one is told of a pause for it.
+    const bool still = paused_ && !(held_ && requestedRate_ != 0.0f);
+    rate_ = still ? 0.0f : float(baseSpeed_) * (backward_ ? -1.0f : 1.0f);
     if (rate_ == reportedRate_) return;
     reportedRate_ = rate_;
     emit rateChanged(rate_);
@@ -449,25 +440,28 @@ void MpvPlayer::updateRate() {
 void MpvPlayer::renderFrame() {
     if (!render_) return;
     if (mpv_render_context_update(render_) & MPV_RENDER_UPDATE_FRAME) frameOwed_ = true;
-    const QSize size = !displaySize_.isEmpty() ? displaySize_ : videoSize_;
+    const QSize size = drawnSize();
     const bool resized = fbo_ && !size.isEmpty() && fbo_->size() != size;
     if (!frameOwed_ && !resized) return;
-    ScopedCurrent current(gl_.get(), surface_.get());
+    ScopedGlCurrent current(gl_.get(), surface_.get());
     if (!current.ok()) return;
     // mpv's video thread waits (up to 200 ms) for each new frame to be drawn,
     // so a frame that comes before its size is known is drawn small at once
     // and owed again at its size.
     const QSize drawn = size.isEmpty() ? QSize(16, 16) : size;
     QOpenGLFunctions* f = gl_->functions();
-    if (!fbo_ || fbo_->size() != drawn) {
-        fbo_ = std::make_unique<QOpenGLFramebufferObject>(drawn);
+    // Held, a new picture goes into a second texture, the shown one stays.
+    const bool aside = held_ && hasFrame_;
+    std::unique_ptr<QOpenGLFramebufferObject>& fbo = aside ? heldFbo_ : fbo_;
+    if (!fbo || fbo->size() != drawn) {
+        fbo = std::make_unique<QOpenGLFramebufferObject>(drawn);
         // Views are usually smaller than the video: filter when scaling down.
-        f->glBindTexture(GL_TEXTURE_2D, fbo_->texture());
+        f->glBindTexture(GL_TEXTURE_2D, fbo->texture());
         f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
         f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
         f->glBindTexture(GL_TEXTURE_2D, 0);
     }
-    mpv_opengl_fbo target{int(fbo_->handle()), drawn.width(), drawn.height(), 0};
+    mpv_opengl_fbo target{int(fbo->handle()), drawn.width(), drawn.height(), 0};
     int flip = 0;
     mpv_render_param params[] = {{MPV_RENDER_PARAM_OPENGL_FBO, &target},
                                  {MPV_RENDER_PARAM_FLIP_Y, &flip},
@@ -480,6 +474,12 @@ void MpvPlayer::renderFrame() {
     const bool first = !hasFrame_;
     hasFrame_ = true;
     if (first) emit firstFrameRendered();
+    // Held, the picture found by a seek is drawn (mpv's seek ends only once
+    // it is) but not shown until the other player's is there too.
+    if (aside) {
+        repaintOwed_ = true;
+        return;
+    }
     emit frameRendered();
 }
 

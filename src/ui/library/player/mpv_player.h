@@ -5,6 +5,7 @@
 // the decoder. All mpv calls made from the interface thread are asynchronous;
 // mpv's events arrive on the Qt event loop.
 
+#include <QHash>
 #include <QObject>
 #include <QSize>
 #include <QString>
@@ -49,6 +50,12 @@ public:
     // Plays this much faster or slower than the rate asked for, without
     // the rate reported changing: how a follower catches up with its leader.
     void setSpeedTrim(double trim);
+    // Holds the picture still without it counting as a pause: the rate
+    // asked for and reported stay, and a new picture is drawn aside and
+    // shown only when let go. Two players started by one
+    // command are held until both have found their frame, then let go together.
+    void setHeld(bool held);
+    bool isHeld() const { return held_; }
     void seekExact(double seconds);
     // A seek (or load, or step back) is on its way to its picture.
     bool isSeeking() const { return seeking_; }
@@ -71,6 +78,11 @@ public:
     // The latest picture; 0 until the first frame was drawn.
     unsigned textureId() const;
     QSize textureSize() const;
+    // The size (in device pixels) at which one widget shows this player's
+    // pictures; an empty size when it no longer does. Pictures are drawn no
+    // larger than the largest of these: on a software renderer, drawing
+    // 1080p and scaling it down again costs more than decoding it.
+    void setShownSize(const void* viewer, QSize size);
 
 signals:
     void loaded(bool hasVideo);
@@ -92,6 +104,8 @@ private:
     void handleFileLoaded();
     void handleTrackList(const mpv_node* tracks);
     void updateRate();
+    // The size pictures are drawn at: the video's, fitted into the largest view.
+    QSize drawnSize() const;
     bool initGl();
     void command(std::initializer_list<const char*> args, uint64_t reply = 0);
     // A command or property change that makes mpv seek (load, seek, step
@@ -105,6 +119,7 @@ private:
     std::unique_ptr<QOpenGLContext> gl_;
     std::unique_ptr<QOffscreenSurface> surface_;
     std::unique_ptr<QOpenGLFramebufferObject> fbo_;
+    std::unique_ptr<QOpenGLFramebufferObject> heldFbo_;  // drawn while held, shown when let go
     bool hasFrame_ = false;
     bool retiring_ = false;
     bool frameOwed_ = false;  // mpv has a frame not yet drawn at the picture's size
@@ -132,6 +147,8 @@ private:
     bool hasVideo_ = false;
     bool eof_ = false;
     bool paused_ = true;
+    bool held_ = false;
+    bool repaintOwed_ = false;  // a picture drawn while held, not yet announced
     bool backward_ = false;
     double baseSpeed_ = 1.0;  // the speed asked for, without the trim
     double trim_ = 1.0;
@@ -144,6 +161,7 @@ private:
     double duration_ = 0.0;
     QSize videoSize_;
     QSize displaySize_;
+    QHash<const void*, QSize> shownSizes_;
 };
 
 }  // namespace tarvik

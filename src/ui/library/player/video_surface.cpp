@@ -3,16 +3,47 @@
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QOpenGLTextureBlitter>
+#include <QApplication>
+#include <QTimer>
+#include <utility>
 
 #include "ui/library/player/mpv_player.h"
 
 namespace tarvik {
+
+namespace {
+
+// Every repaint of a GL widget composes its whole window again (on a
+// software renderer, the window's every pixel, twice). Two views playing in
+// step get their frames within a few milliseconds of each other: waiting
+// that long lets one composition show both, which also shows them together.
+constexpr int kGatherMs = 8;
+
+QList<QPointer<VideoSurface>>& gathered() {
+    static QList<QPointer<VideoSurface>> surfaces;
+    return surfaces;
+}
+
+}  // namespace
+
+void VideoSurface::repaintSoon() {
+    QList<QPointer<VideoSurface>>& list = gathered();
+    if (list.contains(this)) return;
+    list << this;
+    if (list.size() > 1) return;
+    QTimer::singleShot(kGatherMs, Qt::PreciseTimer, qApp, [] {
+        const QList<QPointer<VideoSurface>> due = std::exchange(gathered(), {});
+        for (const auto& s : due)
+            if (s) s->update();
+    });
+}
 
 VideoSurface::VideoSurface(QWidget* parent) : QOpenGLWidget(parent) {}
 
 MpvPlayer* VideoSurface::shownPlayer() const { return player_; }
 
 VideoSurface::~VideoSurface() {
+    if (player_) player_->setShownSize(this, QSize());
     makeCurrent();
     blitter_.reset();
     doneCurrent();
@@ -27,9 +58,30 @@ void VideoSurface::releaseGl() {
 void VideoSurface::showPlayer(MpvPlayer* player) {
     if (player_ == player) return;
     disconnect(frameConnection_);
+    if (player_) player_->setShownSize(this, QSize());
     player_ = player;
-    if (player) frameConnection_ = connect(player, &MpvPlayer::frameRendered, this, qOverload<>(&QWidget::update));
+    reportShownSize();
+    if (player) frameConnection_ = connect(player, &MpvPlayer::frameRendered, this, &VideoSurface::repaintSoon);
     update();
+}
+
+void VideoSurface::reportShownSize() {
+    if (player_) player_->setShownSize(this, isVisible() ? size() * devicePixelRatioF() : QSize());
+}
+
+void VideoSurface::resizeEvent(QResizeEvent* event) {
+    QOpenGLWidget::resizeEvent(event);
+    reportShownSize();
+}
+
+void VideoSurface::showEvent(QShowEvent* event) {
+    QOpenGLWidget::showEvent(event);
+    reportShownSize();
+}
+
+void VideoSurface::hideEvent(QHideEvent* event) {
+    QOpenGLWidget::hideEvent(event);
+    reportShownSize();
 }
 
 void VideoSurface::setPictureVisible(bool visible) {

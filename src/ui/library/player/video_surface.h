@@ -28,9 +28,16 @@ protected:
 
     void initializeGL() override;
     void paintGL() override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void releaseGl();
+    // Tells the shown player how large its pictures are shown here.
+    void reportShownSize();
+    // A new picture: shown with whatever other view has one a moment later.
+    void repaintSoon();
 
     QPointer<MpvPlayer> player_;
     QMetaObject::Connection frameConnection_;
