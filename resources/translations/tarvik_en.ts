@@ -1105,5 +1105,9 @@ Select a model name to apply its default settings.</translation>
         <source>Drawing still.png</source>
         <translation>Drawing still.png</translation>
     </message>
+    <message>
+        <source>The route in a corner, with the car on it</source>
+        <translation>The route in a corner, with the car on it</translation>
+    </message>
 </context>
 </TS>

@@ -1105,5 +1105,9 @@ Choisissez un modèle pour appliquer ses réglages par défaut.</translation>
         <source>Drawing still.png</source>
         <translation>Création de still.png</translation>
     </message>
+    <message>
+        <source>The route in a corner, with the car on it</source>
+        <translation>Le trajet dans un coin, avec la voiture dessus</translation>
+    </message>
 </context>
 </TS>

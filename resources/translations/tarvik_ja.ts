@@ -1101,5 +1101,9 @@ TARVIK VIEWERを終了してから再度フォーマットしてください。&
         <source>Drawing still.png</source>
         <translation>still.png を作成中</translation>
     </message>
+    <message>
+        <source>The route in a corner, with the car on it</source>
+        <translation>隅にルートと車の位置を表示</translation>
+    </message>
 </context>
 </TS>

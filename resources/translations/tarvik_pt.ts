@@ -1105,5 +1105,9 @@ Selecione o modelo para aplicar as configurações padrão.</translation>
         <source>Drawing still.png</source>
         <translation>A criar still.png</translation>
     </message>
+    <message>
+        <source>The route in a corner, with the car on it</source>
+        <translation>O trajeto num canto, com o carro nele</translation>
+    </message>
 </context>
 </TS>

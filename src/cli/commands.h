@@ -40,7 +40,7 @@ struct ExportOptions {
     std::string card, from, to, out;
     std::string layout = "side";
     int crf = 20;
-    bool overlay = false, mph = false;
+    bool overlay = false, mph = false, routeInset = false;
     bool verbose = false;
 };
 

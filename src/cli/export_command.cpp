@@ -18,8 +18,9 @@ int exportCommand(const ExportOptions& o) {
     to.folder = o.out;
     to.programVersion = TARVIK_VERSION;
     to.video.crf = o.crf;
-    to.overlay = o.overlay;
+    to.overlay = o.overlay || o.routeInset;
     to.overlayOptions.mph = o.mph;
+    to.overlayOptions.routeInset = o.routeInset;
     layoutFromName(o.layout, &to.video.layout);
     const auto from = parseCameraTime(o.from), until = parseCameraTime(o.to);
     if (!from || !until) {

@@ -100,6 +100,7 @@ void addExport(CLI::App& app, ExportOptions& o) {
         ->capture_default_str();
     c->add_flag("--overlay", o.overlay, "Draw the camera's clock, the speed, G values and position over the picture");
     c->add_flag("--mph", o.mph, "Speeds in the overlay in miles an hour");
+    c->add_flag("--route-inset", o.routeInset, "Draw the route in a corner with the car on it (implies --overlay)");
     c->add_option("--quality", o.crf, "H.264 quality, 0 (best) to 51")->check(CLI::Range(0, 51))->capture_default_str();
     c->add_flag("--verbose", o.verbose, "Let FFmpeg report what it finds wrong in the clips");
     c->footer("Progress goes to standard error; the folder's path to standard output once it is whole.\n"

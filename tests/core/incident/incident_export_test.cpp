@@ -312,3 +312,43 @@ TEST(IncidentExport, AWholeClipWithoutOverlayKeepsTheCamerasPicture) {
         EXPECT_EQ(shell("cd '" + out.path.string() + "' && sha256sum -c --quiet SHA256SUMS").exitCode, 0);
     }
 }
+
+// The route inset: the car's dot stays inside the inset and moves the way
+// the positions do (east to the right, north up), from the span's first
+// position to its last.
+TEST(IncidentExport, RouteInsetFollowsThePositions) {
+    Drive drive;
+    Folder out("inset");
+    ProcessResult r = runTarvik({"export", drive.card.path.string(), "--from", "2026-11-21 10:00:02", "--to",
+                                 "2026-11-21 10:00:07", "--route-inset", "--layout", "front", "--out",
+                                 out.path.string()});
+    ASSERT_EQ(r.exitCode, 0) << r.output;
+    std::ifstream in(out.path / "overlay.ass");
+    const std::string ass((std::istreambuf_iterator<char>(in)), {});
+    const std::regex dot(R"(Dialogue: 1,[^,]*,[^,]*,Route,\{\\pos\((\d+),(\d+)\))");
+    std::vector<std::pair<int, int>> dots;
+    for (auto it = std::sregex_iterator(ass.begin(), ass.end(), dot); it != std::sregex_iterator(); ++it)
+        dots.emplace_back(std::stoi((*it)[1]) + 5, std::stoi((*it)[2]) + 5);
+    ASSERT_GE(dots.size(), 2u) << ass;
+    for (const auto& [x, y] : dots) {
+        EXPECT_GE(x, kRouteInsetLeft);
+        EXPECT_LE(x, kRouteInsetLeft + kRouteInsetSize);
+        EXPECT_GE(y, kRouteInsetTop);
+        EXPECT_LE(y, kRouteInsetTop + kRouteInsetSize);
+    }
+    auto data = std::make_unique<OrvoClipData>();
+    auto position = [&](const char* clip, double t) {
+        loadClipTelemetry((drive.card.path / "cont_rec" / clip).string(), *data);
+        int x, y, z;
+        float lat, lng;
+        unsigned kmh;
+        data->getClipDataWithIndex(int(t * 10 + 1e-9), x, y, z, lat, lng, kmh);
+        return std::pair{lat, lng};
+    };
+    const auto [lat0, lng0] = position("20261121_100000_F.avi", 2.0);
+    const auto [lat1, lng1] = position("20261121_100004_F.avi", 2.9);
+    auto sign = [](double v) { return (v > 1e-9) - (v < -1e-9); };
+    EXPECT_EQ(sign(dots.back().first - dots.front().first), sign(lng1 - lng0));
+    EXPECT_EQ(sign(dots.back().second - dots.front().second), -sign(lat1 - lat0));
+    EXPECT_NE(dots.front(), dots.back());
+}

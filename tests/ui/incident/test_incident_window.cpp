@@ -208,6 +208,8 @@ private slots:
         QTest::keyClicks(dialog->destinationEdit(), out);
         dialog->layoutBox()->setCurrentIndex(dialog->layoutBox()->findData(int(IncidentLayout::PictureInPicture)));
         dialog->overlayBox()->setChecked(true);
+        QTest::mouseClick(dialog->routeInsetBox(), Qt::LeftButton, {}, QPoint(8, dialog->routeInsetBox()->height() / 2));
+        QVERIFY(dialog->routeInsetBox()->isChecked());
         dialog->qualityBox()->setCurrentIndex(2);
         dialog->show();
         QTest::qWait(300);
@@ -230,6 +232,9 @@ private slots:
         sums.start("sha256sum", {"-c", "--quiet", "SHA256SUMS"});
         QVERIFY(sums.waitForFinished(30000));
         QCOMPARE(sums.exitCode(), 0);
+        QFile ass(folder + "/overlay.ass");
+        QVERIFY(ass.open(QIODevice::ReadOnly));
+        QVERIFY(ass.readAll().contains(",Route,"));  // the inset, as ticked
         // A frame of the result, to look at.
         QProcess::execute("ffmpeg", {"-v", "error", "-y", "-ss", "2", "-i", folder + "/incident.mp4", "-frames:v", "1",
                                      shotPath("incident-frame.png")});
@@ -244,6 +249,7 @@ private slots:
         QCOMPARE(IncidentLayout(dialog->layoutBox()->currentData().toInt()), IncidentLayout::PictureInPicture);
         QCOMPARE(dialog->qualityBox()->currentIndex(), 2);
         QVERIFY(dialog->overlayBox()->isChecked());
+        QVERIFY(dialog->routeInsetBox()->isChecked());
         QCOMPARE(dialog->destinationEdit()->text(), dir_.filePath("exports"));
         const QString out = dir_.filePath("cancelled");
         QDir().mkpath(out);

@@ -3,7 +3,8 @@
 // libass: for every tenth of a second, the camera's clock, the speed, the
 // three G values and the position, worked out as the dashboard does at the
 // same moment (sample trunc(t x 10), G as raw x 4 / 512 to three places,
-// degrees to four, km/h or rounded mph).
+// degrees to four, km/h or rounded mph); and, when asked, the span's route
+// in the top left corner with a dot where the car is.
 
 #include <string>
 
@@ -13,7 +14,11 @@ namespace tarvik {
 
 struct OverlayOptions {
     bool mph = false;
+    bool routeInset = false;
 };
+
+// Where the route inset lies in the overlay's 1280x720 frame (scaled with the picture).
+inline constexpr int kRouteInsetLeft = 24, kRouteInsetTop = 24, kRouteInsetSize = 240;
 
 std::string incidentOverlayAss(const IncidentSpan& span, const OverlayOptions& options);
 

@@ -50,6 +50,7 @@ IncidentExportDialog::IncidentExportDialog(const IncidentSpan& span, PreferenceS
       store_(store),
       layout_(new QComboBox(this)),
       overlay_(new QCheckBox(tr_k("Time, speed, G values and position over the picture"), this)),
+      routeInset_(new QCheckBox(tr_k("The route in a corner, with the car on it"), this)),
       quality_(new QComboBox(this)),
       destination_(new QLineEdit(this)),
       problem_(new QLabel(this)),
@@ -74,6 +75,9 @@ IncidentExportDialog::IncidentExportDialog(const IncidentSpan& span, PreferenceS
     for (int i = 0; i < 3; ++i) quality_->addItem(tr_k(qualities[i]), kQualities[i]);
     layout_->setObjectName("incidentLayout");
     overlay_->setObjectName("incidentOverlay");
+    routeInset_->setObjectName("incidentRouteInset");
+    // The inset is part of the overlay: without it there is nothing to draw on.
+    connect(overlay_, &QCheckBox::toggled, routeInset_, &QWidget::setEnabled);
     quality_->setObjectName("incidentQuality");
     destination_->setObjectName("incidentDestination");
     problem_->setObjectName("incidentProblem");
@@ -98,6 +102,7 @@ IncidentExportDialog::IncidentExportDialog(const IncidentSpan& span, PreferenceS
     form->addRow(tr_k("Span"), spanLabel);
     form->addRow(tr_k("Layout"), layout_);
     form->addRow(tr_k("Overlay"), overlay_);
+    form->addRow(QString(), routeInset_);
     form->addRow(tr_k("Quality"), quality_);
     form->addRow(tr_k("Destination"), folderRow);
     auto* buttons = new QDialogButtonBox(this);
@@ -124,6 +129,8 @@ void IncidentExportDialog::restore() {
         row = layout_->findData(int(IncidentLayout::Front));
     layout_->setCurrentIndex(row);
     overlay_->setChecked(store_.integer(kOverlayKey).value_or(1) != 0);
+    routeInset_->setChecked(store_.integer(kRouteInsetKey).value_or(0) != 0);
+    routeInset_->setEnabled(overlay_->isChecked());
     const int q = quality_->findData(store_.integer(kQualityKey).value_or(kQualities[1]));
     quality_->setCurrentIndex(q < 0 ? 1 : q);
     QString folder = QString::fromStdString(store_.string(kFolderKey).value_or(""));
@@ -134,6 +141,7 @@ void IncidentExportDialog::restore() {
 void IncidentExportDialog::remember() {
     store_.setString(kLayoutKey, layoutName(choice_.video.layout));
     store_.setInteger(kOverlayKey, choice_.overlay ? 1 : 0);
+    store_.setInteger(kRouteInsetKey, routeInset_->isChecked() ? 1 : 0);
     store_.setInteger(kQualityKey, choice_.video.crf);
     store_.setString(kFolderKey, QDir::fromNativeSeparators(destination_->text().trimmed()).toStdString());
     store_.synchronize();
@@ -166,6 +174,7 @@ void IncidentExportDialog::accept() {
     choice_.video.layout = IncidentLayout(layout_->currentData().toInt());
     choice_.video.crf = quality_->currentData().toInt();
     choice_.overlay = overlay_->isChecked();
+    choice_.overlayOptions.routeInset = choice_.overlay && routeInset_->isChecked();
     remember();
     QDialog::accept();
 }

@@ -27,6 +27,7 @@ public:
     const IncidentExport& choice() const { return choice_; }
     QComboBox* layoutBox() const { return layout_; }
     QCheckBox* overlayBox() const { return overlay_; }
+    QCheckBox* routeInsetBox() const { return routeInset_; }
     QComboBox* qualityBox() const { return quality_; }
     QLineEdit* destinationEdit() const { return destination_; }
     QLabel* problemLabel() const { return problem_; }
@@ -37,6 +38,7 @@ public:
     // The store's keys of the last choices.
     static constexpr const char* kLayoutKey = "IncidentExportLayout";
     static constexpr const char* kOverlayKey = "IncidentExportOverlay";
+    static constexpr const char* kRouteInsetKey = "IncidentExportRouteInset";
     static constexpr const char* kQualityKey = "IncidentExportQuality";
     static constexpr const char* kFolderKey = "IncidentExportFolder";
     // The dashboard's speed unit, which the overlay follows: 1 is miles per hour.
@@ -52,6 +54,7 @@ private:
     IncidentExport choice_;
     QComboBox* layout_;
     QCheckBox* overlay_;
+    QCheckBox* routeInset_;
     QComboBox* quality_;
     QLineEdit* destination_;
     QLabel* problem_;
