@@ -73,8 +73,16 @@ std::vector<std::string> pictureArguments(const IncidentSpan& span, const Incide
     if (rear) inputs(true);
     std::string graph;
     switch (o.layout) {
-    case IncidentLayout::Front:
-    case IncidentLayout::Rear: graph = joined(0, n, "v", audio); break;
+    case IncidentLayout::Front: graph = joined(0, n, "v", audio); break;
+    case IncidentLayout::Rear:
+        graph = joined(0, n, "v");
+        // The rear camera seldom has a microphone: the front's sound, cut the same way.
+        if (audio) {
+            inputs(false);
+            for (std::size_t i = 0; i < n; ++i) graph += (i ? "" : ";") + ("[" + std::to_string(n + i) + ":a:0]");
+            graph += "concat=n=" + std::to_string(n) + ":v=0:a=1[a]";
+        }
+        break;
     case IncidentLayout::Side:
         // The rear at the front's height, beside it.
         graph = joined(0, n, "f", audio) + ";" + joined(n, n, "r") + ";[r][f]scale2ref=w=-2:h=main_h[rs][fs];[fs][rs]hstack=inputs=2[v]";
@@ -107,15 +115,16 @@ bool canCopyPicture(const IncidentSpan& span, const IncidentVideoOptions& o, con
 
 std::vector<std::string> incidentVideoArguments(const IncidentSpan& span, const IncidentVideoOptions& o,
                                                 const std::string& output) {
-    // The rear camera alone goes without the front's sound.
-    const bool audio = o.frontAudio && o.layout != IncidentLayout::Rear;
+    const bool audio = o.frontAudio;
     if (o.copyPicture && span.parts.size() == 1) {
         const IncidentPart& p = span.parts.front();
+        const bool rear = o.layout == IncidentLayout::Rear;
         std::vector<std::string> args = {"-nostdin", "-hide_banner", "-loglevel", "error", "-y", "-i",
-                                         o.layout == IncidentLayout::Rear ? p.clip.partner : p.clip.path,
-                                         "-map", "0:v:0", "-c:v", "copy"};
+                                         rear ? p.clip.partner : p.clip.path};
+        if (audio && rear) args.insert(args.end(), {"-i", p.clip.path});
+        args.insert(args.end(), {"-map", "0:v:0", "-c:v", "copy"});
         // The camera's sound may be PCM, which MP4 does not hold: it alone is encoded.
-        if (audio) args.insert(args.end(), {"-map", "0:a:0", "-c:a", "aac", "-b:a", "128k"});
+        if (audio) args.insert(args.end(), {"-map", rear ? "1:a:0" : "0:a:0", "-c:a", "aac", "-b:a", "128k"});
         else args.push_back("-an");
         args.insert(args.end(), {"-movflags", "+faststart", "-f", "mp4", output});
         return args;
