@@ -301,12 +301,12 @@ std::string ClipCatalogue::takeBigVideoURL(int row) const {
     if (!videoSwitched_) return cur;
 
     std::string result = cur;
-    if (!isMp4ClipPath(cur)) return result;
+    if (!isPairedClipPath(cur)) return result;
     const std::string partner = cameraPartnerPath(cur);
     if (partner.empty()) return result;
-    if (row > 0 && isMp4ClipPath(filtered_[row - 1]) && partner == filtered_[row - 1]) result = filtered_[row - 1];
+    if (row > 0 && isPairedClipPath(filtered_[row - 1]) && partner == filtered_[row - 1]) result = filtered_[row - 1];
     // The following entry wins over the preceding one.
-    if (row < rowCount() - 1 && isMp4ClipPath(filtered_[row + 1]) && partner == filtered_[row + 1]) return filtered_[row + 1];
+    if (row < rowCount() - 1 && isPairedClipPath(filtered_[row + 1]) && partner == filtered_[row + 1]) return filtered_[row + 1];
     return result;
 }
 

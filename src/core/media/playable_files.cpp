@@ -7,6 +7,7 @@
 #include "core/library/clip_catalogue.h"
 #include "core/library/conversion/clip_converter.h"
 #include "core/media/media_probe.h"
+#include "core/telemetry/mp4_clip_path.h"
 
 namespace tarvik {
 
@@ -16,8 +17,16 @@ PlayableFiles playableFilesOf(const std::string& clipPath) {
     std::string ext = fs::path(clipPath).extension().string();
     std::transform(ext.begin(), ext.end(), ext.begin(), [](unsigned char c) { return std::tolower(c); });
     PlayableFiles out;
+    auto withPartner = [&] {
+        // Lettered A/B pairs too (the partner's name carries the same time).
+        std::string partner = ClipConverter::partnerPathOf(clipPath);
+        if (partner.empty()) partner = ClipCatalogue::cameraPartnerPath(clipPath);
+        std::error_code ec;
+        if (!partner.empty() && fs::is_regular_file(partner, ec)) out.files.push_back(partner);
+    };
     if (ext != ".avi" && ext != ".mp4") {
         out.files = {clipPath};
+        if (isPairedClipPath(clipPath)) withPartner();
         return out;
     }
     // Headers only: the player would refuse what libavformat cannot open.
@@ -28,13 +37,7 @@ PlayableFiles playableFilesOf(const std::string& clipPath) {
         return out;
     }
     out.files = {clipPath};
-    if (ext == ".mp4") {
-        // Lettered A/B pairs too (the partner's name carries the same time).
-        std::string partner = ClipConverter::partnerPathOf(clipPath);
-        if (partner.empty()) partner = ClipCatalogue::cameraPartnerPath(clipPath);
-        std::error_code ec;
-        if (!partner.empty() && fs::is_regular_file(partner, ec)) out.files.push_back(partner);
-    }
+    if (ext == ".mp4") withPartner();
     return out;
 }
 

@@ -10,4 +10,9 @@ namespace tarvik {
 
 bool isMp4ClipPath(std::string_view path);
 
+// Whether front and rear of such a clip are two files that pair by name: MP4,
+// and the MPEG-TS (".ts") some other cameras write. An AVI holds both cameras
+// in one file, whatever its name says.
+bool isPairedClipPath(std::string_view path);
+
 }  // namespace tarvik

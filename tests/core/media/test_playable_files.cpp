@@ -49,4 +49,9 @@ TEST(PlayableFiles, CardFilesAsTheyAreExceptTwoCameraAvi) {
     EXPECT_TRUE(playableFilesOf(empty.string()).files.empty());
     EXPECT_TRUE(playableFilesOf(noise.string()).files.empty());
     EXPECT_EQ(playableFilesOf("/no/such.mkv").files, std::vector<std::string>{"/no/such.mkv"});
+    // Other cameras' MPEG-TS pairs by name like MP4 (the player reads the packets).
+    const fs::path front = card.write("2026_1121_100056_F.TS", "ts"),
+                   rear = card.write("2026_1121_100056_R.TS", "ts");
+    EXPECT_EQ(playableFilesOf(front.string()).files, (std::vector<std::string>{front.string(), rear.string()}));
+    EXPECT_EQ(playableFilesOf(rear.string()).files, (std::vector<std::string>{rear.string(), front.string()}));
 }

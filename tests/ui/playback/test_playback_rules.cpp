@@ -150,6 +150,7 @@ private slots:
         QCOMPARE(nextClipRow(lettered, 0), 2);
         QCOMPARE(previousClipRow(lettered, 2), 0);
         QCOMPARE(nextClipRow({"/n/x_A.mp4", "/n/x_B.mp4", "/n/y.mp4"}, 0), 1);  // no time: not a camera's letter
+        QCOMPARE(nextClipRow({"/n/1_F.TS", "/n/1_R.TS", "/n/2_F.TS"}, 0), 2);      // other cameras' MPEG-TS pairs
         // AVI clips never pair, whatever their names say.
         QCOMPARE(nextClipRow({"/c/D_F.avi", "/c/D_R.avi", "/c/E.avi"}, 0), 1);
         QCOMPARE(previousClipRow({"/c/D_F.avi", "/c/D_R.avi", "/c/E.avi"}, 2), 0);  // but back over them by name

@@ -8,7 +8,7 @@ namespace tarvik {
 namespace {
 
 bool isPartnerOf(const std::string& row, const std::string& other) {
-    if (!isMp4ClipPath(row) || !isMp4ClipPath(other)) return false;
+    if (!isPairedClipPath(row) || !isPairedClipPath(other)) return false;
     const std::string partner = ClipCatalogue::cameraPartnerPath(row);
     return !partner.empty() && partner == other;
 }

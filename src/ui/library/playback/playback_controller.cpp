@@ -225,7 +225,7 @@ void PlaybackController::prepareVideoToPlay(const std::string& url, double) {
     } else {
         v_.switchVideoButton->setEnabled(false);
     }
-    if (isMp4ClipPath(url)) catalogue_.setVideoSwitched(false);
+    if (isPairedClipPath(url)) catalogue_.setVideoSwitched(false);
     lock_->lock(bigMovieView_->player(), files->size() >= 2 ? smallMovieView_->player() : nullptr);
 
     pictureViews_ = files->size() >= 2 ? QList<OrvoAVView*>{bigMovieView_, smallMovieView_}
