@@ -20,6 +20,7 @@
 #include <QToolButton>
 #include <filesystem>
 #include <cmath>
+#include <tuple>
 
 #include "cardgen/card_plan.h"
 #include "ui/library/incident/incident_export_dialog.h"
@@ -233,28 +234,23 @@ private slots:
         QCOMPARE(still.size(), QSize(640, 180));
     }
 
+    // The list's command takes the selected clips whole, the trips view's the drive under the pointer.
     void contextMenuExportsTheSelectedClipsWhole() {
-        QMenu menu;
-        incident().addCommands(menu, nullptr, {(card_ / "cont_rec/20261121_100004_F.avi").string(),
-                                               (card_ / "cont_rec/20261121_100008_F.avi").string()});
-        QCOMPARE(menu.actions().size(), 1);
-        menu.actions().front()->trigger();
-        QTRY_VERIFY(incident().dialog() && incident().dialog()->isVisible());
-        QVERIFY(incident().dialog()->findChild<QLabel*>("incidentSpanText")->text().contains("10:00:04.0"));
-        QVERIFY(incident().dialog()->findChild<QLabel*>("incidentSpanText")->text().contains("8.0 s"));
-        incident().dialog()->reject();
-        QTRY_VERIFY(!incident().dialog());
-
-        // The trips view's command takes the drive under the pointer whole.
         const Trip drive = window_->trips().tripOf((card_ / "cont_rec/20261121_100000_F.avi").string());
-        QMenu tripMenu;
-        incident().addCommands(tripMenu, &drive, {});
-        tripMenu.actions().front()->trigger();
-        QTRY_VERIFY(incident().dialog() && incident().dialog()->isVisible());
-        const QString text = incident().dialog()->findChild<QLabel*>("incidentSpanText")->text();
-        QVERIFY2(text.contains("10:00:00.0") && text.contains("12.0 s"), qPrintable(text));
-        incident().dialog()->reject();
-        QTRY_VERIFY(!incident().dialog());
+        const std::vector<std::string> clips = {(card_ / "cont_rec/20261121_100004_F.avi").string(),
+                                                (card_ / "cont_rec/20261121_100008_F.avi").string()};
+        for (const auto& [trip, selected, from, length] :
+             {std::tuple{(const Trip*)nullptr, clips, "10:00:04.0", "8.0 s"}, {&drive, {}, "10:00:00.0", "12.0 s"}}) {
+            QMenu menu;
+            incident().addCommands(menu, trip, selected);
+            QCOMPARE(menu.actions().size(), 1);
+            menu.actions().front()->trigger();
+            QTRY_VERIFY(incident().dialog() && incident().dialog()->isVisible());
+            const QString text = incident().dialog()->findChild<QLabel*>("incidentSpanText")->text();
+            QVERIFY2(text.contains(from) && text.contains(length), qPrintable(text));
+            incident().dialog()->reject();
+            QTRY_VERIFY(!incident().dialog());
+        }
     }
 };
 

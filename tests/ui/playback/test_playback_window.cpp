@@ -88,6 +88,12 @@ class PlaybackWindowTest : public QObject {
     OrvoAVView* small() { return playback().smallMovieView(); }
     int rowOf(const std::string& name) { return test::rowOf(*window_, name); }
     void doubleClick(int row) { test::playRow(*window_, row); }
+    // Plays the clip by double-click; true once the large view has it running.
+    bool start(const std::string& name) {
+        doubleClick(rowOf(name));
+        return QTest::qWaitFor([&] { return big()->status() == OrvoAVViewStatusPrepared && !playback().isVideoPaused(); },
+                               kLoadMs);
+    }
     QString text(QLabel* label) { return label->text(); }
 
 private slots:
@@ -213,10 +219,8 @@ private slots:
     }
 
     void switchRotateAndFullScreen() {
-        doubleClick(rowOf("20261121_083200.avi"));
-        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
+        QVERIFY(start("20261121_083200.avi"));
         QTRY_COMPARE_WITH_TIMEOUT(small()->status(), OrvoAVViewStatusPrepared, kLoadMs);
-        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
         playback().pauseVideo();
         // The second player's ready report may still be on its way: it must
         // not start the clip again.
@@ -256,10 +260,7 @@ private slots:
     }
 
     void snapshotCopyAndPrint() {
-        const int avi = rowOf("20261121_083200.avi");
-        doubleClick(avi);
-        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
-        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+        QVERIFY(start("20261121_083200.avi"));
         playback().pauseVideo();
         playback().setCurrentVideoTime(2.0);
         QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - 2.0) < 1e-3, 5000);
@@ -354,9 +355,7 @@ private slots:
     }
 
     void settingsPauseAndAZoomedPicturePansWithADrag() {
-        doubleClick(rowOf("20261121_083200.avi"));
-        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
-        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+        QVERIFY(start("20261121_083200.avi"));
         // The settings button asks for a pause before any pane opens.
         QVERIFY(QMetaObject::invokeMethod(&window_->card(), "pauseVideoRequested"));
         QVERIFY(playback().isVideoPaused());
