@@ -74,10 +74,8 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!list->isMeasuring(), 30000);
         QCOMPARE(list->topLevelItemCount(), 4);
         const QTreeWidgetItem* drive = list->topLevelItem(0);
-        QCOMPARE(drive->text(0), QString("2026-11-21 10:00:00"));
-        QCOMPARE(drive->text(1), QString("10:00:20"));
-        QCOMPARE(drive->text(2), QString("0:20"));
-        QCOMPARE(drive->text(4), QString("54"));
+        QCOMPARE(QStringList({drive->text(0), drive->text(1), drive->text(2), drive->text(4)}).join("|"),
+                 QString("2026-11-21 10:00:00|10:00:20|0:20|54"));
         QCOMPARE(list->topLevelItem(1)->text(2), QString("1:00"));
         // Double-clicking the drive plays its first clip and brings the clips back.
         emit list->itemDoubleClicked(list->topLevelItem(0), 0);
