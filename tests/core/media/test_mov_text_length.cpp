@@ -2,8 +2,6 @@
 // its text ends with the sample, never in the bytes after it.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 
 #include "../telemetry/test_bytes.h"
 #include "cardgen/telemetry_encoders.h"
@@ -24,11 +22,7 @@ TEST(MovTextLength, ALengthPastTheSampleEndsAtTheSample) {
     const fs::path good = dir.path / "good.mp4";
     std::string log;
     ASSERT_TRUE(cardgen::makeVideo(spec, good, &log)) << log;
-    std::string bytes;
-    {
-        std::ifstream in(good, std::ios::binary);
-        bytes.assign(std::istreambuf_iterator<char>(in), {});
-    }
+    const std::string bytes = test::readBytes(good);
     const auto want = SubtitleTrack::srtText(good.string());
     ASSERT_TRUE(want && !want->empty());
 

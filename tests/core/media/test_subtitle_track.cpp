@@ -2,8 +2,6 @@
 // same generated clips, and against broken files.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 
 #include "../telemetry/test_bytes.h"
 #include "cardgen/telemetry_encoders.h"
@@ -18,11 +16,6 @@ using namespace tarvik;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string slurp(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 fs::path clipWithTrack(const test::TempDir& dir, const std::string& name, const std::string& srt) {
     cardgen::VideoSpec spec;
@@ -72,7 +65,7 @@ TEST(SubtitleTrackReader, SameCuesAsFfmpegExtraction) {
 
         const auto text = SubtitleTrack::srtText(clip.string());
         ASSERT_TRUE(text.has_value());
-        EXPECT_EQ(*text, slurp(srt));
+        EXPECT_EQ(*text, test::readBytes(srt));
 
         OrvoClipData viaFfmpeg, inProcess;
         viaFfmpeg.loadVideoFileCilpDataFromFilePath(srt.string());
@@ -102,7 +95,7 @@ TEST(SubtitleTrackReader, SameCuesAsFfmpegExtraction) {
 TEST(SubtitleTrackReader, NeutralOnBrokenInput) {
     test::TempDir dir;
     const fs::path good = clipWithTrack(dir, "good", cardgen::srtTrack(cardgen::driveSeconds(0, 6, 10, cardgen::quantizeText)));
-    const std::string bytes = slurp(good);
+    const std::string bytes = test::readBytes(good);
     std::string garbage(1 << 16, '\0');
     for (std::size_t i = 0; i < garbage.size(); ++i) garbage[i] = static_cast<char>(i * 2654435761u >> 13);
     const fs::path broken[] = {dir.write("half.mp4", bytes.substr(0, bytes.size() / 2)),

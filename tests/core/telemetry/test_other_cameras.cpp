@@ -12,7 +12,6 @@
 #include <map>
 #include <functional>
 #include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -48,11 +47,6 @@ const T* latestAt(const std::vector<T>& v, double t) {
     for (const T& e : v)
         if (e.t <= t + 1e-6 && (!best || e.t >= best->t)) best = &e;
     return best;
-}
-
-std::string slurp(const std::filesystem::path& p) {
-    std::ifstream f(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
 }
 
 std::unique_ptr<OrvoClipData> read(const std::filesystem::path& clip) {
@@ -225,7 +219,7 @@ TEST(OtherCameras, LookalikesTruncationsAndUnknownVariantsGiveNothing) {
             EXPECT_TRUE(w.load(plain));
             add(w);
             EXPECT_TRUE(w.save(plain));
-            return slurp(plain);
+            return test::readBytes(plain);
         };
     };
     // A plain transport stream with units of its own on the cameras' PID.
@@ -234,7 +228,7 @@ TEST(OtherCameras, LookalikesTruncationsAndUnknownVariantsGiveNothing) {
             const auto plain = dir.path / "plain.ts";
             EXPECT_TRUE(makeVideo(smallVideo(), plain));
             EXPECT_TRUE(addTsPrivateStream(plain, listed ? 0x0101 : 0x0300, units, listed));
-            return slurp(plain);
+            return test::readBytes(plain);
         };
     };
     const std::string record = freeGpsTsRecord(kFrom, false);
@@ -301,7 +295,7 @@ TEST(OtherCameras, LookalikesTruncationsAndUnknownVariantsGiveNothing) {
         const auto clip = dir.path / (std::string(c.name) + c.ext);
         std::string log;
         ASSERT_TRUE(writeOtherCameraClip(c.layout, smallVideo(), kFrom, clip, nullptr, &log)) << log;
-        const std::string changed = c.change(slurp(clip));
+        const std::string changed = c.change(test::readBytes(clip));
         std::ofstream(clip, std::ios::binary | std::ios::trunc) << changed;
         const auto d = read(clip);
         EXPECT_EQ(d->gpsDataCount(), 0);

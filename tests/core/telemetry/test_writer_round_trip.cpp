@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <fstream>
-#include <iterator>
 
 #include "cardgen/avi_text_chunks.h"
 #include "cardgen/card_plan.h"
@@ -122,8 +120,7 @@ TEST(WriterRoundTrip, EmbeddedLayouts) {
         // The chunk walk reads only what the index leaves between pictures;
         // without an index, or with one that does not fit the file, it walks
         // every header, and all three ways give the same samples.
-        std::ifstream in(clip, std::ios::binary);
-        const std::string bytes((std::istreambuf_iterator<char>(in)), {});
+        const std::string bytes = test::readBytes(clip);
         const std::size_t idx = bytes.rfind("idx1");
         ASSERT_NE(idx, std::string::npos);
         std::string noIndex = bytes, shifted = bytes;
@@ -183,8 +180,7 @@ TEST(WriterRoundTrip, ChunksLandBetweenTheFramesOfTheirTime) {
     std::vector<TextChunk> chunks = {{0.55, "02tx", "gsensor,1,2,3"}, {0.0, "03tx", "first"}, {99, "02tx", "last"}};
     std::string error;
     ASSERT_TRUE(addTextChunksToAvi(clip, chunks, 10, &error)) << error;
-    std::ifstream f(clip, std::ios::binary);
-    std::string bytes((std::istreambuf_iterator<char>(f)), {});
+    const std::string bytes = test::readBytes(clip);
     const auto first = bytes.find("03tx"), mid = bytes.find("02tx"), last = bytes.find("02tx", mid + 1);
     ASSERT_NE(first, std::string::npos);
     ASSERT_NE(last, std::string::npos);

@@ -136,16 +136,6 @@ private slots:
         QCOMPARE(names(), (QStringList{"C.mov"}));
     }
 
-    void doubleClickAsksToPlayTheSelectedRow() {
-        MainWindowController c;
-        QSignalSpy play(&c, &MainWindowController::playVideoWithIdx);
-        c.catalogue().chooseFolder(card_.string());
-        c.views().fileListTableView->selectRow(2);
-        c.catalogue().videoFileListDoubleClicked();
-        QCOMPARE(play.count(), 1);
-        QCOMPARE(play.at(0).at(0).toInt(), 2);
-    }
-
     void speedUnitMenuStoresTheUnitAndAnnouncesChanges() {
         QSettings("Tarvik", "Tarvik Viewer").clear();
         QSettingsStore::shared().synchronize();

@@ -79,27 +79,36 @@ private slots:
     }
     void cleanup() { volumes_.reset(); }
 
-    // On each of the four tabs, with a control of that tab focused.
-    void m420PaneOnEveryTab_data() {
-        QTest::addColumn<int>("tab");
+    // On each of the M420 pane's four tabs, with a control of that tab
+    // focused, and on the KRT pane's partition choice.
+    void paneTakesReturnAndEscape_data() {
+        QTest::addColumn<int>("tab");  // none for the KRT pane
         QTest::addColumn<int>("key");
-        for (int t = 0; t < 4; ++t) {
-            QTest::newRow(QByteArray(kM420Tabs[t]) + " Return") << t << int(Qt::Key_Return);
-            QTest::newRow(QByteArray(kM420Tabs[t]) + " Escape") << t << int(Qt::Key_Escape);
-        }
+        for (int t = -1; t < 4; ++t)
+            for (int key : {int(Qt::Key_Return), int(Qt::Key_Escape)})
+                QTest::newRow(qPrintable(QString(t < 0 ? "KRT" : kM420Tabs[t]) + (key == Qt::Key_Return ? " Return" : " Escape")))
+                    << t << key;
     }
-    void m420PaneOnEveryTab() {
+    void paneTakesReturnAndEscape() {
         QFETCH(int, tab);
         QFETCH(int, key);
-        const fs::path card = volumes_->mount("M420CARD", 8);
+        const fs::path card = tab < 0 ? volumes_->mount("KRTCARD", 6) : volumes_->mount("M420CARD", 8);
         const QByteArray before = cardHash(card);
         MainWindowController c;
         bool shown = false;
         ModalScript script({[&](QWidget*, OrvoViewController* p) {
             auto guard = cancelIfFailed(p);
+            shown = true;
+            if (tab < 0) {
+                auto* pane = qobject_cast<KRTSettingViewController*>(p);
+                QVERIFY(pane);
+                QAbstractButton* partition = pane->memoryPartitionButton(pane->memoryPartitionButton(1)->isChecked() ? 2 : 1);
+                QTest::mouseClick(partition, Qt::LeftButton);
+                pressOn(partition, Qt::Key(key));
+                return;
+            }
             auto* pane = qobject_cast<M420SettingViewController*>(p);
             QVERIFY(pane);
-            shown = true;
             // A setting changed with the mouse, then the tab and its control.
             QAbstractButton* column = pane->control(m420pane::Control::Partition)->buttons()->button(1);
             QTest::mouseClick(column, Qt::LeftButton);
@@ -107,32 +116,6 @@ private slots:
             QWidget* control = focusableOnShownTab(pane->view());
             QVERIFY(control);
             pressOn(control, Qt::Key(key));
-        }});
-        c.card().openChosenCard(card.string());
-        QVERIFY(shown);
-        QVERIFY(script.done());
-        expectCardAfterKey(key, card, before);
-    }
-
-    void krtPane_data() {
-        QTest::addColumn<int>("key");
-        QTest::newRow("Return") << int(Qt::Key_Return);
-        QTest::newRow("Escape") << int(Qt::Key_Escape);
-    }
-    void krtPane() {
-        QFETCH(int, key);
-        const fs::path card = volumes_->mount("KRTCARD", 6);
-        const QByteArray before = cardHash(card);
-        MainWindowController c;
-        bool shown = false;
-        ModalScript script({[&](QWidget*, OrvoViewController* p) {
-            auto guard = cancelIfFailed(p);
-            auto* pane = qobject_cast<KRTSettingViewController*>(p);
-            QVERIFY(pane);
-            shown = true;
-            QAbstractButton* partition = pane->memoryPartitionButton(pane->memoryPartitionButton(1)->isChecked() ? 2 : 1);
-            QTest::mouseClick(partition, Qt::LeftButton);
-            pressOn(partition, Qt::Key(key));
         }});
         c.card().openChosenCard(card.string());
         QVERIFY(shown);

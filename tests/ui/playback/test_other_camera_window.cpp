@@ -2,21 +2,13 @@
 // speed gauge, the G texts and graph, and the route on the map page come from
 // each family's own telemetry layout. Leaves a picture of each in the build tree.
 #include <QLabel>
-#include <QTableView>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QWebEngineView>
 #include <filesystem>
 
 #include "cardgen/card_plan.h"
-#include "core/library/clip_catalogue.h"
 #include "core/telemetry/orvo_clip_data.h"
-#include "ui/shell/catalogue_controller.h"
-#include "ui/shell/main_window.h"
-#include "ui/shell/main_window_controller.h"
 #include "ui/library/playback/dashboard_widgets.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/seek_slider_controller.h"
@@ -25,23 +17,12 @@
 #include "ui/telemetry/gravity_graph_view.h"
 #include "ui/telemetry/map_controller.h"
 #include "ui/telemetry/speed_meter_view.h"
+#include "../window_on_card.h"
 
 using namespace tarvik;
 namespace fs = std::filesystem;
 
-namespace {
-
 constexpr int kLoadMs = 30000;
-
-int routePoints(QWebEngineView* view) {
-    int n = -1;
-    view->page()->runJavaScript("JSON.stringify(window.mapState ? mapState() : {})", [&](const QVariant& v) {
-        n = static_cast<int>(QJsonDocument::fromJson(v.toString().toUtf8()).object().value("route").toArray().size());
-    });
-    return QTest::qWaitFor([&] { return n >= 0; }, 5000) ? n : -1;
-}
-
-}  // namespace
 
 class OtherCameraWindowTest : public QObject {
     Q_OBJECT
@@ -49,12 +30,6 @@ class OtherCameraWindowTest : public QObject {
     std::unique_ptr<MainWindowController> window_;
 
     PlaybackController& playback() { return window_->playback(); }
-    int rowOf(const std::string& name) {
-        const auto& list = window_->catalogue().catalogue().filteredVideoFileList();
-        for (size_t i = 0; i < list.size(); ++i)
-            if (ClipCatalogue::fileName(list[i]) == name) return static_cast<int>(i);
-        return -1;
-    }
 
 private slots:
     void initTestCase() {
@@ -62,10 +37,8 @@ private slots:
         const fs::path card = fs::path(dir_.path().toStdString()) / "card";
         std::string error;
         QVERIFY2(cardgen::writeCard(cardgen::otherCameraCardPlan(8, 320, 180), card, &error), error.c_str());
-        window_ = std::make_unique<MainWindowController>();
-        window_->showMainWindow();
-        QVERIFY(QTest::qWaitForWindowExposed(window_->mainWindow()));
-        window_->catalogue().chooseFolder(card.string());
+        window_ = test::openWindowOn(card);
+        QVERIFY(window_);
         QCOMPARE(window_->catalogue().catalogue().rowCount(), 11);
         QTRY_VERIFY_WITH_TIMEOUT(playback().dashboardWidgets().mapController->isPageReady(), 30000);
         playback().setAlertPresenter([](const QString& m, const QString& i) {
@@ -96,10 +69,9 @@ private slots:
         QFETCH(bool, hasG);
         QFETCH(QString, recorded);
         const MainWindowViews& v = window_->views();
-        const int row = rowOf(clip.toStdString());
+        const int row = test::rowOf(*window_, clip.toStdString());
         QVERIFY(row >= 0);
-        v.fileListTableView->selectRow(row);
-        window_->catalogue().videoFileListDoubleClicked();
+        test::playRow(*window_, row);
         OrvoAVView* big = playback().bigMovieView();
         QTRY_COMPARE_WITH_TIMEOUT(big->status(), OrvoAVViewStatusPrepared, kLoadMs);
         if (pair) QTRY_COMPARE_WITH_TIMEOUT(playback().smallMovieView()->status(), OrvoAVViewStatusPrepared, kLoadMs);
@@ -131,7 +103,7 @@ private slots:
         if (hasG) QCOMPARE(playback().dashboardWidgets().gravityGraphView->clipData().clipDataCount(), 80);
         QWebEngineView* map = playback().dashboardWidgets().mapWebView;
         QTRY_VERIFY_WITH_TIMEOUT(!map->isHidden(), 5000);
-        QTRY_VERIFY_WITH_TIMEOUT(routePoints(map) > 1, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(test::mapState(map).value("route").toArray().size() > 1, 5000);
     }
 };
 

@@ -5,8 +5,6 @@
 #include <QApplication>
 #include <QJsonArray>
 #include <QMouseEvent>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLabel>
 #include <QPrinter>
 #include <QProcess>
@@ -15,22 +13,15 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QElapsedTimer>
-#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QWebEngineView>
 #include <filesystem>
 #include <fstream>
 
 #include "cardgen/card_plan.h"
-#include "core/library/clip_catalogue.h"
 #include "core/telemetry/orvo_clip_data.h"
 #include "core/telemetry/subtitle_data.h"
 #include "ui/shell/card_controller.h"
-#include "ui/shell/catalogue_controller.h"
-#include "ui/shell/main_window.h"
-#include "ui/shell/main_window_controller.h"
-#include "ui/controls/image_button.h"
 #include "ui/l10n/orvo_languages.h"
 #include "ui/library/playback/clip_failure_watch.h"
 #include "ui/library/playback/clip_navigation.h"
@@ -44,9 +35,11 @@
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/playback/save_dialogs.h"
 #include "ui/library/playback/seek_slider_controller.h"
+#include "ui/controls/image_button.h"
 #include "ui/library/player/orvo_av_view.h"
 #include "ui/telemetry/map_controller.h"
 #include "ui/telemetry/speed_meter_view.h"
+#include "../window_on_card.h"
 
 using namespace tarvik;
 namespace fs = std::filesystem;
@@ -71,17 +64,6 @@ struct ScriptedDialogs : SaveDialogs {
     }
 };
 
-QJsonObject mapState(QWebEngineView* view) {
-    QJsonObject state;
-    bool done = false;
-    view->page()->runJavaScript("JSON.stringify(window.mapState ? mapState() : {})", [&](const QVariant& v) {
-        state = QJsonDocument::fromJson(v.toString().toUtf8()).object();
-        done = true;
-    });
-    if (!QTest::qWaitFor([&] { return done; }, 5000)) qWarning("the map page did not answer");
-    return state;
-}
-
 QByteArray readAll(const QString& path) {
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
@@ -104,15 +86,13 @@ class PlaybackWindowTest : public QObject {
     PlaybackController& playback() { return window_->playback(); }
     OrvoAVView* big() { return playback().bigMovieView(); }
     OrvoAVView* small() { return playback().smallMovieView(); }
-    int rowOf(const std::string& name) {
-        const auto& list = window_->catalogue().catalogue().filteredVideoFileList();
-        for (size_t i = 0; i < list.size(); ++i)
-            if (ClipCatalogue::fileName(list[i]) == name) return static_cast<int>(i);
-        return -1;
-    }
-    void doubleClick(int row) {
-        window_->views().fileListTableView->selectRow(row);
-        window_->catalogue().videoFileListDoubleClicked();
+    int rowOf(const std::string& name) { return test::rowOf(*window_, name); }
+    void doubleClick(int row) { test::playRow(*window_, row); }
+    // Plays the clip by double-click; true once the large view has it running.
+    bool start(const std::string& name) {
+        doubleClick(rowOf(name));
+        return QTest::qWaitFor([&] { return big()->status() == OrvoAVViewStatusPrepared && !playback().isVideoPaused(); },
+                               kLoadMs);
     }
     QString text(QLabel* label) { return label->text(); }
 
@@ -159,10 +139,8 @@ private slots:
         writeBytes(rec / "20261121_090700.mp4", noise);
         fs::copy_file(rec / "20261121_083200.avi", rec / "20261121_090800.avi");
 
-        window_ = std::make_unique<MainWindowController>();
-        window_->showMainWindow();
-        QVERIFY(QTest::qWaitForWindowExposed(window_->mainWindow()));
-        window_->catalogue().chooseFolder(card_.string());
+        window_ = test::openWindowOn(card_);
+        QVERIFY(window_);
         QCOMPARE(window_->catalogue().catalogue().rowCount(), 13);
         playback().setAlertPresenter([this](const QString& m, const QString& i) {
             alerts_ << m + "|" + i;
@@ -223,8 +201,8 @@ private slots:
         QVERIFY2(gauge->speed() > 0 && gauge->speed() < 1024, qPrintable(QString::number(gauge->speed())));
 
         // The page has the clip's route and the car has moved along it.
-        QTRY_VERIFY_WITH_TIMEOUT(mapState(map).value("route").toArray().size() > 1, 5000);
-        QTRY_VERIFY_WITH_TIMEOUT(mapState(map).value("moves").toInt() > 0, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(test::mapState(map).value("route").toArray().size() > 1, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(test::mapState(map).value("moves").toInt() > 0, 5000);
         QVERIFY(!map->isHidden());
 
         playback().playVideo();
@@ -241,10 +219,8 @@ private slots:
     }
 
     void switchRotateAndFullScreen() {
-        doubleClick(rowOf("20261121_083200.avi"));
-        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
+        QVERIFY(start("20261121_083200.avi"));
         QTRY_COMPARE_WITH_TIMEOUT(small()->status(), OrvoAVViewStatusPrepared, kLoadMs);
-        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
         playback().pauseVideo();
         // The second player's ready report may still be on its way: it must
         // not start the clip again.
@@ -284,10 +260,7 @@ private slots:
     }
 
     void snapshotCopyAndPrint() {
-        const int avi = rowOf("20261121_083200.avi");
-        doubleClick(avi);
-        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
-        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+        QVERIFY(start("20261121_083200.avi"));
         playback().pauseVideo();
         playback().setCurrentVideoTime(2.0);
         QTRY_VERIFY_WITH_TIMEOUT(qAbs(big()->currentTime() - 2.0) < 1e-3, 5000);
@@ -382,9 +355,7 @@ private slots:
     }
 
     void settingsPauseAndAZoomedPicturePansWithADrag() {
-        doubleClick(rowOf("20261121_083200.avi"));
-        QTRY_COMPARE_WITH_TIMEOUT(big()->status(), OrvoAVViewStatusPrepared, kLoadMs);
-        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+        QVERIFY(start("20261121_083200.avi"));
         // The settings button asks for a pause before any pane opens.
         QVERIFY(QMetaObject::invokeMethod(&window_->card(), "pauseVideoRequested"));
         QVERIFY(playback().isVideoPaused());
