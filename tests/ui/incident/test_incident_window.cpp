@@ -162,6 +162,7 @@ private slots:
         QTest::keyClicks(dialog->destinationEdit(), out);
         dialog->layoutBox()->setCurrentIndex(dialog->layoutBox()->findData(int(IncidentLayout::PictureInPicture)));
         dialog->overlayBox()->setChecked(true);
+        dialog->routeInsetBox()->setChecked(false);  // whatever an earlier run left
         QTest::mouseClick(dialog->routeInsetBox(), Qt::LeftButton, {}, QPoint(8, dialog->routeInsetBox()->height() / 2));
         QVERIFY(dialog->routeInsetBox()->isChecked());
         dialog->qualityBox()->setCurrentIndex(2);
