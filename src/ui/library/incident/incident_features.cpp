@@ -1,5 +1,6 @@
 #include "ui/library/incident/incident_features.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
@@ -18,6 +19,20 @@
 #include "ui/library/incident/incident_still_saver.h"
 
 namespace tarvik {
+
+namespace {
+
+// Finding a span reads the headers of the drive's clips, which on a slow card
+// takes a moment: the pointer says so meanwhile.
+template <typename F>
+auto busy(F&& find) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    auto found = find();
+    QApplication::restoreOverrideCursor();
+    return found;
+}
+
+}  // namespace
 
 namespace {
 
@@ -137,7 +152,7 @@ void IncidentFeatures::addCommands(QMenu& menu, const Trip* trip, const std::vec
     }
     const std::vector<std::string> clips = selectedClips;
     menu.addAction(tr_k("Export incident..."), this, [this, clips] {
-        if (const auto span = spanOfClips(cardRoot_(), clips)) exportSpan(*span);
+        if (const auto span = busy([&] { return spanOfClips(cardRoot_(), clips); })) exportSpan(*span);
         else alert(tr_k("The selected clips are not one stretch of a drive, or their length is unknown."));
     })->setEnabled(!clips.empty());
 }
@@ -146,7 +161,7 @@ bool IncidentFeatures::exportIncident() {
     const std::string root = cardRoot_();
     if (marks_->hasSpan()) {
         std::string why;
-        const auto span = findIncidentSpan(root, *marks_->inPoint(), *marks_->outPoint(), true, &why);
+        const auto span = busy([&] { return findIncidentSpan(root, *marks_->inPoint(), *marks_->outPoint(), true, &why); });
         if (!span) {
             alert(tr_k("The marked span cannot be exported: %1").arg(QString::fromStdString(why)));
             return false;
@@ -154,7 +169,7 @@ bool IncidentFeatures::exportIncident() {
         return exportSpan(*span);
     }
     const IncidentMarks::Playing p = marks_->playing();
-    const auto span = p.clip.empty() ? std::nullopt : spanOfClips(root, {p.clip});
+    const auto span = p.clip.empty() ? std::nullopt : busy([&] { return spanOfClips(root, {p.clip}); });
     if (!span) {
         alert(tr_k("Play a clip, or mark the start and the end of an incident, first."));
         return false;
@@ -164,7 +179,7 @@ bool IncidentFeatures::exportIncident() {
 
 bool IncidentFeatures::saveStill() {
     const IncidentMarks::Playing p = marks_->playing();
-    const auto span = p.clip.empty() ? std::nullopt : spanOfClips(cardRoot_(), {p.clip});
+    const auto span = p.clip.empty() ? std::nullopt : busy([&] { return spanOfClips(cardRoot_(), {p.clip}); });
     if (!span) {
         alert(tr_k("Play a clip first."));
         return false;
