@@ -313,18 +313,20 @@ TEST(IncidentExport, AWholeClipWithoutOverlayKeepsTheCamerasPicture) {
     }
 }
 
-// The route inset: the car's dot stays inside the inset and moves the way
+// The route inset: the car's dot stays inside a square inset and moves the way
 // the positions do (east to the right, north up), from the span's first
 // position to its last.
 TEST(IncidentExport, RouteInsetFollowsThePositions) {
     Drive drive;
     Folder out("inset");
     ProcessResult r = runTarvik({"export", drive.card.path.string(), "--from", "2026-11-21 10:00:02", "--to",
-                                 "2026-11-21 10:00:07", "--route-inset", "--layout", "front", "--out",
+                                 "2026-11-21 10:00:07", "--route-inset", "--layout", "side", "--out",
                                  out.path.string()});
     ASSERT_EQ(r.exitCode, 0) << r.output;
     std::ifstream in(out.path / "overlay.ass");
     const std::string ass((std::istreambuf_iterator<char>(in)), {});
+    // Two 16:9 pictures side by side: the frame is drawn twice as wide, so the inset stays square.
+    EXPECT_NE(ass.find("PlayResX: 2560\nPlayResY: 720\n"), std::string::npos);
     const std::regex dot(R"(Dialogue: 1,[^,]*,[^,]*,Route,\{\\pos\((\d+),(\d+)\))");
     std::vector<std::pair<int, int>> dots;
     for (auto it = std::sregex_iterator(ass.begin(), ass.end(), dot); it != std::sregex_iterator(); ++it)

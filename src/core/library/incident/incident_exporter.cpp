@@ -9,6 +9,7 @@
 #include <map>
 
 #include "core/library/incident/evidence_copy.h"
+#include "core/library/incident/incident_probe.h"
 #include "core/library/incident/incident_record.h"
 #include "core/library/incident/incident_still.h"
 #include "core/library/trips/clip_container.h"
@@ -21,26 +22,6 @@ namespace tarvik {
 namespace fs = std::filesystem;
 
 namespace {
-
-// Whether ffprobe (beside the ffmpeg in use) finds a sound stream in the clip.
-// ffprobe's answer about the first stream of a kind ("a" or "v") of a clip.
-std::string probeFirstStream(const std::string& clip, const char* kind, const char* entry) {
-    std::string probe = incidentFfmpeg();
-    const auto slash = probe.rfind('/');
-    probe = (slash == std::string::npos ? std::string() : probe.substr(0, slash + 1)) + "ffprobe";
-    const ProcessResult r = ProcessRunner::run(probe,
-                                               {"-v", "error", "-select_streams", std::string(kind) + ":0",
-                                                "-show_entries", std::string("stream=") + entry, "-of", "csv=p=0", clip},
-                                               std::chrono::seconds(30));
-    if (r.exitCode != 0) return {};
-    std::string out = r.output;
-    while (!out.empty() && (out.back() == '\n' || out.back() == '\r' || out.back() == ',')) out.pop_back();
-    return out;
-}
-
-bool hasSound(const std::string& clip) {
-    return probeFirstStream(clip, "a", "index").find_first_of("0123456789") != std::string::npos;
-}
 
 // The span's clips as one trip, for the route and samples of its stretch.
 Trip tripOfSpan(const IncidentSpan& span) {
@@ -170,7 +151,9 @@ bool IncidentExporter::write(const IncidentSpan& span, const IncidentExport& to,
     char scratch[] = "/tmp/tarvik-overlay-XXXXXX";
     const bool scratchMade = to.overlay && ::mkdtemp(scratch);
     if (to.overlay) {
-        overlay = incidentOverlayAss(span, to.overlayOptions);
+        OverlayOptions drawn = to.overlayOptions;
+        drawn.frameWidth = overlayFrameWidth(span, video.layout);
+        overlay = incidentOverlayAss(span, drawn);
         video.overlayFile = std::string(scratch) + "/overlay.ass";
         written.push_back(dir / "overlay.ass");
         if (!scratchMade || !writeFileAtomically(video.overlayFile, overlay) ||

@@ -113,7 +113,8 @@ std::string routeInsetEvents(const std::vector<RoutePoint>& points, double secon
 
 std::string incidentOverlayAss(const IncidentSpan& span, const OverlayOptions& options) {
     std::string out =
-        "[Script Info]\nScriptType: v4.00+\nPlayResX: 1280\nPlayResY: 720\nWrapStyle: 2\n\n"
+        "[Script Info]\nScriptType: v4.00+\nPlayResX: " + std::to_string(options.frameWidth) +
+        "\nPlayResY: 720\nWrapStyle: 2\n\n"
         "[V4+ Styles]\nFormat: Name, Fontname, Fontsize, PrimaryColour, OutlineColour, BackColour, Bold, BorderStyle, "
         "Outline, Shadow, Alignment, MarginL, MarginR, MarginV\n"
         "Style: Telemetry,DejaVu Sans Mono,30,&H00FFFFFF,&H00000000,&H80000000,0,1,2,0,1,24,24,20\n"

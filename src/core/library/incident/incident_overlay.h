@@ -15,6 +15,9 @@ namespace tarvik {
 struct OverlayOptions {
     bool mph = false;
     bool routeInset = false;
+    // The frame's width at a height of 720, the shape of the picture it is
+    // drawn on (libass stretches the frame to the picture).
+    int frameWidth = 1280;
 };
 
 // Where the route inset lies in the overlay's 1280x720 frame (scaled with the picture).

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core/library/incident/incident_probe.h"
 #include "core/util/atomic_file.h"
 #include "core/util/process_runner.h"
 
@@ -35,7 +36,9 @@ bool writeIncidentStill(const IncidentSpan& span, double at, const IncidentStill
     std::error_code ec;
     if (still.overlay) {
         video.overlayFile = std::string(scratch) + "/overlay.ass";
-        if (!scratchMade || !writeFileAtomically(video.overlayFile, incidentOverlayAss(moment, still.overlayOptions)))
+        OverlayOptions drawn = still.overlayOptions;
+        drawn.frameWidth = overlayFrameWidth(moment, video.layout);
+        if (!scratchMade || !writeFileAtomically(video.overlayFile, incidentOverlayAss(moment, drawn)))
             return fail("the overlay cannot be written");
     }
     const std::string partial = png + ".partial";
