@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "bench_reading.h"
 #include "bench_table.h"
 #include "cardgen/mp4_box_writer.h"
 #include "cardgen/other_camera_layouts.h"
@@ -26,6 +27,9 @@
 namespace fs = std::filesystem;
 using namespace tarvik;
 using namespace tarvik::cardgen;
+
+using tarvik::bench::plainReadSeconds;
+using tarvik::bench::statusKiB;
 
 namespace {
 
@@ -107,25 +111,6 @@ std::vector<std::uint32_t> sizesOf(const std::vector<std::string>& v) {
     std::vector<std::uint32_t> s;
     for (const std::string& p : v) s.push_back(static_cast<std::uint32_t>(p.size()));
     return s;
-}
-
-double plainReadSeconds(const fs::path& path) {
-    const auto t0 = std::chrono::steady_clock::now();
-    int fd = open(path.c_str(), O_RDONLY);
-    std::vector<char> buf(1 << 20);
-    std::uint64_t sum = 0;
-    for (ssize_t n; (n = read(fd, buf.data(), buf.size())) > 0;) sum += static_cast<unsigned char>(buf[n - 1]);
-    close(fd);
-    benchmark::DoNotOptimize(sum);
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-}
-
-long statusKiB(const char* key) {
-    std::ifstream in("/proc/self/status");
-    std::string line;
-    while (std::getline(in, line))
-        if (line.rfind(key, 0) == 0) return std::atol(line.c_str() + std::strlen(key));
-    return -1;
 }
 
 void compare(benchmark::State& state, const char* row, double goal, const std::function<fs::path()>& make) {

@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "bench_reading.h"
 #include "bench_table.h"
 #include "cardgen/telemetry_encoders.h"
 #include "core/telemetry/orvo_clip_data.h"
@@ -24,6 +25,9 @@
 namespace fs = std::filesystem;
 using namespace tarvik;
 using namespace tarvik::cardgen;
+
+using tarvik::bench::plainReadSeconds;
+using tarvik::bench::statusKiB;
 
 namespace {
 
@@ -183,25 +187,6 @@ const fs::path& recordsAvi() {
 const fs::path& tailClip() {
     static fs::path p = makeTailClip();
     return p;
-}
-
-double plainReadSeconds(const fs::path& path) {
-    const auto t0 = std::chrono::steady_clock::now();
-    int fd = open(path.c_str(), O_RDONLY);
-    std::vector<char> buf(1 << 20);
-    std::uint64_t sum = 0;
-    for (ssize_t n; (n = read(fd, buf.data(), buf.size())) > 0;) sum += static_cast<unsigned char>(buf[n - 1]);
-    close(fd);
-    benchmark::DoNotOptimize(sum);
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-}
-
-long statusKiB(const char* key) {
-    std::ifstream in("/proc/self/status");
-    std::string line;
-    while (std::getline(in, line))
-        if (line.rfind(key, 0) == 0) return std::atol(line.c_str() + std::strlen(key));
-    return -1;
 }
 
 // Peak resident memory above the level just before `work`, in MiB.
