@@ -12,6 +12,7 @@
 #include <QOpenGLFramebufferObject>
 #include <QOpenGLFunctions>
 #include <QThreadPool>
+#include <QTimer>
 #include <QTableView>
 #include <QWindow>
 #include <algorithm>
@@ -25,6 +26,7 @@
 #include <mutex>
 
 #include "bench_table.h"
+#include "event_wait.h"
 #include "cardgen/video_maker.h"
 #include "core/library/clip_catalogue.h"
 #include "ui/shell/catalogue_controller.h"
@@ -205,10 +207,15 @@ double doubleClickSeconds(MainWindowController& window, int row) {
     window.catalogue().videoFileListDoubleClicked();
     gSyncSeconds = std::chrono::duration<double>(Clock::now() - t0).count();
     // The players were created by the double-click; loading has only begun.
+    // Asleep until the second first frame, as the application's own loop is.
+    QEventLoop loop;
     for (OrvoAVView* v : {playback.bigMovieView(), playback.smallMovieView()})
-        if (v->player()) QObject::connect(v->player(), &MpvPlayer::firstFrameRendered, [&] { ++framed; });
-    while (framed < 2 && Clock::now() - t0 < std::chrono::seconds(60))
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+        if (v->player())
+            QObject::connect(v->player(), &MpvPlayer::firstFrameRendered, &loop, [&] {
+                if (++framed == 2) loop.quit();
+            });
+    QTimer::singleShot(60000, &loop, &QEventLoop::quit);
+    if (framed < 2) loop.exec();
     const double s = std::chrono::duration<double>(Clock::now() - t0).count();
     if (framed < 2)
         for (OrvoAVView* v : {playback.bigMovieView(), playback.smallMovieView()})
@@ -242,7 +249,7 @@ int main(int argc, char** argv) {
     while (!(window.mainWindow()->isVisible() && window.mainWindow()->windowHandle() &&
              window.mainWindow()->windowHandle()->isExposed()) &&
            Clock::now() < shownDeadline)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        bench::runEventsFor(20);
     window.catalogue().chooseFolder((kRoot / "card").string());
     int row = -1;
     const auto& list = window.catalogue().catalogue().filteredVideoFileList();
@@ -252,7 +259,7 @@ int main(int argc, char** argv) {
     const auto pageDeadline = Clock::now() + std::chrono::seconds(60);
     while (window.playback().dashboardWidgets().mapController &&
            !window.playback().dashboardWidgets().mapController->isPageReady() && Clock::now() < pageDeadline)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        bench::runEventsFor(20);
     if (row < 0) {
         std::fprintf(stderr, "the pair is not in the clip list\n");
         return 1;

@@ -31,6 +31,7 @@
 #include <vector>
 
 #include "bench_table.h"
+#include "event_wait.h"
 #include "cardgen/numbered_frames.h"
 #include "cardgen/video_maker.h"
 #include "core/library/clip_catalogue.h"
@@ -76,7 +77,7 @@ double cpuSeconds(int who) {
 
 void pump(double seconds) {
     const auto until = Clock::now() + std::chrono::duration<double>(seconds);
-    while (Clock::now() < until) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    while (Clock::now() < until) bench::runEventsFor(20);
 }
 
 // Two mpv processes with the viewer's players' settings, drawing to windows
@@ -104,7 +105,7 @@ double viewerSeconds(MainWindowController& window, int row) {
     window.catalogue().videoFileListDoubleClicked();
     const auto deadline = Clock::now() + std::chrono::seconds(int(kPlaySeconds * 4));
     while (playback.bigMovieView()->currentTime() < kPlaySeconds && Clock::now() < deadline)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        bench::runEventsFor(20);
     const double spent = cpuSeconds(RUSAGE_SELF) - before;
     const bool played = playback.bigMovieView()->currentTime() >= kPlaySeconds;
     playback.stopVideo();
@@ -171,7 +172,7 @@ InStep playTrip(MainWindowController& window, int row) {
     while (!(playback.bigMovieView()->showsPicture() && playback.smallMovieView()->showsPicture() &&
              !playback.isVideoPaused()) &&
            Clock::now() < deadline)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        bench::runEventsFor(20);
     std::vector<Capture> playing, across;
     record(playback, 1.5, playing);
     playback.seekTimeSliderTouchedUp(2.0);
@@ -270,7 +271,7 @@ int main(int argc, char** argv) {
     while (!(window.mainWindow()->isVisible() && window.mainWindow()->windowHandle() &&
              window.mainWindow()->windowHandle()->isExposed()) &&
            Clock::now() < shownDeadline)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        bench::runEventsFor(20);
     window.catalogue().chooseFolder((kRoot / "card").string());
     int row = -1;
     const auto& list = window.catalogue().catalogue().filteredVideoFileList();
@@ -279,7 +280,7 @@ int main(int argc, char** argv) {
     const auto pageDeadline = Clock::now() + std::chrono::seconds(60);
     while (window.playback().dashboardWidgets().mapController &&
            !window.playback().dashboardWidgets().mapController->isPageReady() && Clock::now() < pageDeadline)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        bench::runEventsFor(20);
     if (row < 0) {
         std::fprintf(stderr, "the pair is not in the clip list\n");
         return 1;

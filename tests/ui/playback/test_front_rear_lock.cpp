@@ -247,12 +247,11 @@ private slots:
 
         QVERIFY(alerts_.isEmpty());
         QVERIFY2(s.read > int(playing.size()) * 9 / 10, "the screen rows could not be read");
-        // On a shared two-core machine the interface thread, which draws both
-        // players, is itself starved at times and the views are then a frame
-        // or two apart for a moment; what is held here is that they never
-        // drift apart.
-        QVERIFY2(settled.share() >= 0.85, qPrintable(QString::number(100.0 * settled.share())));
-        QVERIFY2(settled.worst <= 4, qPrintable(QString::number(settled.worst)));
+        // Once a command has taken effect. On a shared two-core machine the
+        // interface thread, which draws both players, is itself starved at
+        // times; the margin below 100% is for that, not for drift.
+        QVERIFY2(settled.share() >= 0.95, qPrintable(QString::number(100.0 * settled.share())));
+        QVERIFY2(settled.worst <= 2, qPrintable(QString::number(settled.worst)));
         // Two frame periods, and what the captures, some 60 ms apart, cannot resolve.
         QVERIFY2(seam <= 2 * kPeriod + 90, qPrintable(QString::number(seam)));
     }

@@ -61,6 +61,13 @@ MpvPlayer::MpvPlayer(QObject* parent) : QObject(parent) {
         // A clip's subtitle track is its telemetry, shown by the dashboard,
         // never as text over the picture.
         {"sid", "no"},
+        // A frame is handed over when it is due, not up to 50 ms before.
+        // Otherwise drawing it waits for its moment on the interface
+        // thread, the other player's frame waiting behind it, and the time
+        // mpv reports runs ahead of the picture by an amount that differs
+        // between the two players: the follower steered by it was kept a
+        // frame or two off while both reported the same time.
+        {"video-timing-offset", "0"},
         // The desktop's sound servers, then silence. mpv's own probe would go on to
         // SDL, whose audio layer crashes in a session without a sound device.
         {"ao", "pipewire,pulse,alsa,null"},
@@ -463,8 +470,11 @@ void MpvPlayer::renderFrame() {
     }
     mpv_opengl_fbo target{int(fbo->handle()), drawn.width(), drawn.height(), 0};
     int flip = 0;
+    // Due already (see video-timing-offset): the interface thread never waits here.
+    int block = 0;
     mpv_render_param params[] = {{MPV_RENDER_PARAM_OPENGL_FBO, &target},
                                  {MPV_RENDER_PARAM_FLIP_Y, &flip},
+                                 {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &block},
                                  {MPV_RENDER_PARAM_INVALID, nullptr}};
     mpv_render_context_render(render_, params);
     // The texture is read by the widgets' contexts next.

@@ -5,8 +5,10 @@
 #include <QOpenGLTextureBlitter>
 #include <QApplication>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
+#include "ui/library/player/composition_pacer.h"
 #include "ui/library/player/mpv_player.h"
 
 namespace tarvik {
@@ -24,25 +26,60 @@ QList<QPointer<VideoSurface>>& gathered() {
     return surfaces;
 }
 
+QList<VideoSurface*>& allSurfaces() {
+    static QList<VideoSurface*> surfaces;
+    return surfaces;
+}
+
+// Pictures are coming into this window.
+bool playingIn(QWidget* window) {
+    return std::any_of(allSurfaces().begin(), allSurfaces().end(),
+                       [&](VideoSurface* s) { return s->window() == window && s->awaitsFrame(); });
+}
+
+void repaintGathered() {
+    const QList<QPointer<VideoSurface>> due = std::exchange(gathered(), {});
+    QList<QWidget*> windows;
+    for (const auto& s : due) {
+        if (!s) continue;
+        s->update();
+        if (!windows.contains(s->window())) windows << s->window();
+    }
+    for (QWidget* w : windows)
+        if (CompositionPacer* pacer = CompositionPacer::of(w, &playingIn)) pacer->compose();
+}
+
+QTimer* gatherTimer() {
+    static QPointer<QTimer> timer;
+    if (!timer) {
+        timer = new QTimer(qApp);
+        timer->setSingleShot(true);
+        timer->setTimerType(Qt::PreciseTimer);
+        QObject::connect(timer, &QTimer::timeout, &repaintGathered);
+    }
+    return timer;
+}
+
 }  // namespace
+
+bool VideoSurface::awaitsFrame() const {
+    return isVisible() && pictureVisible_ && player_ && player_->rate() != 0.0f && !player_->isHeld() &&
+           !player_->isEofReached();
+}
 
 void VideoSurface::repaintSoon() {
     QList<QPointer<VideoSurface>>& list = gathered();
     if (list.contains(this)) return;
     list << this;
-    if (list.size() > 1) return;
-    QTimer::singleShot(kGatherMs, Qt::PreciseTimer, qApp, [] {
-        const QList<QPointer<VideoSurface>> due = std::exchange(gathered(), {});
-        for (const auto& s : due)
-            if (s) s->update();
-    });
+    if (list.size() == 1) gatherTimer()->start(kGatherMs);
 }
 
-VideoSurface::VideoSurface(QWidget* parent) : QOpenGLWidget(parent) {}
+VideoSurface::VideoSurface(QWidget* parent) : QOpenGLWidget(parent) { allSurfaces() << this; }
 
 MpvPlayer* VideoSurface::shownPlayer() const { return player_; }
 
 VideoSurface::~VideoSurface() {
+    allSurfaces().removeOne(this);
     if (player_) player_->setShownSize(this, QSize());
     makeCurrent();
     blitter_.reset();
@@ -76,6 +113,7 @@ void VideoSurface::resizeEvent(QResizeEvent* event) {
 
 void VideoSurface::showEvent(QShowEvent* event) {
     QOpenGLWidget::showEvent(event);
+    CompositionPacer::of(window(), &playingIn);
     reportShownSize();
 }
 

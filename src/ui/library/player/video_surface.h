@@ -18,6 +18,9 @@ public:
     explicit VideoSurface(QWidget* parent = nullptr);
     ~VideoSurface() override;
 
+    // Playing and shown: a new picture of this view is on its way.
+    bool awaitsFrame() const;
+
 protected:
     void showPlayer(MpvPlayer* player);
     MpvPlayer* shownPlayer() const;
