@@ -27,6 +27,7 @@
 
 #include "bench_table.h"
 #include "event_wait.h"
+#include "viewer_on_card.h"
 #include "cardgen/video_maker.h"
 #include "core/library/clip_catalogue.h"
 #include "ui/shell/catalogue_controller.h"
@@ -230,11 +231,7 @@ double doubleClickSeconds(MainWindowController& window, int row) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // The viewer's preferences and Documents folder stay out of the user's account.
-    const fs::path home = kRoot / "home";
-    fs::create_directories(home);
-    setenv("HOME", home.c_str(), 1);
-    setenv("XDG_CONFIG_HOME", (home / ".config").c_str(), 1);
+    bench::useOwnHome(kRoot / "home");
     QApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
     fs::path front, rear;
@@ -243,23 +240,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     MainWindowController window;
-    window.showMainWindow();
-    // The splash goes first; the list exists once the main window is up.
-    const auto shownDeadline = Clock::now() + std::chrono::seconds(30);
-    while (!(window.mainWindow()->isVisible() && window.mainWindow()->windowHandle() &&
-             window.mainWindow()->windowHandle()->isExposed()) &&
-           Clock::now() < shownDeadline)
-        bench::runEventsFor(20);
-    window.catalogue().chooseFolder((kRoot / "card").string());
-    int row = -1;
-    const auto& list = window.catalogue().catalogue().filteredVideoFileList();
-    for (std::size_t i = 0; i < list.size(); ++i)
-        if (ClipCatalogue::fileName(list[i]) == front.filename().string()) row = static_cast<int>(i);
-    // The map page loads once with the window; it must not compete with the timing.
-    const auto pageDeadline = Clock::now() + std::chrono::seconds(60);
-    while (window.playback().dashboardWidgets().mapController &&
-           !window.playback().dashboardWidgets().mapController->isPageReady() && Clock::now() < pageDeadline)
-        bench::runEventsFor(20);
+    const int row = bench::showViewerOn(window, kRoot / "card", front.filename().string());
     if (row < 0) {
         std::fprintf(stderr, "the pair is not in the clip list\n");
         return 1;

@@ -32,6 +32,7 @@
 
 #include "bench_table.h"
 #include "event_wait.h"
+#include "viewer_on_card.h"
 #include "cardgen/numbered_frames.h"
 #include "cardgen/video_maker.h"
 #include "core/library/clip_catalogue.h"
@@ -254,10 +255,7 @@ void inStepRows(MainWindowController& window) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const fs::path home = kRoot / "home";
-    fs::create_directories(home);
-    setenv("HOME", home.c_str(), 1);
-    setenv("XDG_CONFIG_HOME", (home / ".config").c_str(), 1);
+    bench::useOwnHome(kRoot / "home");
     QApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
     fs::path front, rear;
@@ -266,21 +264,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     MainWindowController window;
-    window.showMainWindow();
-    const auto shownDeadline = Clock::now() + std::chrono::seconds(30);
-    while (!(window.mainWindow()->isVisible() && window.mainWindow()->windowHandle() &&
-             window.mainWindow()->windowHandle()->isExposed()) &&
-           Clock::now() < shownDeadline)
-        bench::runEventsFor(20);
-    window.catalogue().chooseFolder((kRoot / "card").string());
-    int row = -1;
-    const auto& list = window.catalogue().catalogue().filteredVideoFileList();
-    for (std::size_t i = 0; i < list.size(); ++i)
-        if (ClipCatalogue::fileName(list[i]) == front.filename().string()) row = static_cast<int>(i);
-    const auto pageDeadline = Clock::now() + std::chrono::seconds(60);
-    while (window.playback().dashboardWidgets().mapController &&
-           !window.playback().dashboardWidgets().mapController->isPageReady() && Clock::now() < pageDeadline)
-        bench::runEventsFor(20);
+    const int row = bench::showViewerOn(window, kRoot / "card", front.filename().string());
     if (row < 0) {
         std::fprintf(stderr, "the pair is not in the clip list\n");
         return 1;
