@@ -84,7 +84,7 @@ class TestOrvoAVView : public QObject {
 
     QImage grab(OrvoAVView* v) {
         QTest::qWait(200);  // let the picture reach the widget
-        return v->grabFramebuffer();
+        return v->grab().toImage();
     }
 
 private slots:
@@ -317,22 +317,22 @@ private slots:
         view.setFileName(front_);
         QTRY_VERIFY_WITH_TIMEOUT(view.showsPicture(), kWaitMs);
         MpvPlayer* player = view.player();
-        QTRY_COMPARE(player->textureSize(), QSize(176, 104));
+        QTRY_COMPARE(player->pictureSize(), QSize(176, 104));
         {
             OrvoQTMovieView mirror;  // full screen shows the same player larger
             mirror.setMovieSource(&view);
             mirror.resize(800, 600);
             mirror.show();
             QVERIFY(QTest::qWaitForWindowExposed(&mirror));
-            QTRY_COMPARE(player->textureSize(), QSize(352, 208));
-            QTRY_VERIFY(mirror.grabFramebuffer().pixelColor(400, 300).value() > 0);
+            QTRY_COMPARE(player->pictureSize(), QSize(352, 208));
+            QTRY_VERIFY(mirror.grab().toImage().pixelColor(400, 300).value() > 0);
         }
-        QTRY_COMPARE(player->textureSize(), QSize(176, 104));
+        QTRY_COMPARE(player->pictureSize(), QSize(176, 104));
         view.resize(88, 52);
-        QTRY_COMPARE(player->textureSize(), QSize(88, 52));
+        QTRY_COMPARE(player->pictureSize(), QSize(88, 52));
         // A wider view: the picture keeps its shape.
         view.resize(300, 52);
-        QTRY_COMPARE(player->textureSize(), QSize(88, 52));
+        QTRY_COMPARE(player->pictureSize(), QSize(88, 52));
         view.close();
     }
 
@@ -349,7 +349,7 @@ private slots:
         movie.resize(320, 180);
         movie.show();
         QVERIFY(QTest::qWaitForWindowExposed(&movie));
-        QTRY_VERIFY_WITH_TIMEOUT(movie.grabFramebuffer().pixelColor(160, 40).red() > 150, kWaitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(movie.grab().toImage().pixelColor(160, 40).red() > 150, kWaitMs);
         QTest::mouseClick(&movie, Qt::RightButton);
         QCOMPARE(mr.fullscreenRequests, QList<QObject*>{&movie});
         QTest::mouseMove(&movie, QPoint(160, 10));   // high up: more than 3/4 above the bottom
@@ -357,7 +357,7 @@ private slots:
         QTest::mouseMove(&movie, QPoint(160, 170));
         QTRY_COMPARE(mr.hidden, 1);
         big_->reset();  // the mirror follows the view and goes black
-        QTRY_VERIFY(movie.grabFramebuffer().pixelColor(160, 40).red() < 40);
+        QTRY_VERIFY(movie.grab().toImage().pixelColor(160, 40).red() < 40);
     }
 };
 

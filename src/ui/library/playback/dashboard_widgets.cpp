@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
+#include "ui/base/graphics/software_pictures.h"
 #include "ui/library/playback/dashboard_updater.h"
 #include "ui/library/playback/playback_views.h"
 #include "ui/telemetry/gravity_graph_view.h"
@@ -36,6 +37,7 @@ DashboardWidgets DashboardWidgets::install(QWidget* gravityGraphHost, QWidget* s
 void DashboardWidgets::installMap(QWidget* mapCoverView, QObject* owner) {
     if (mapWebView || !mapCoverView) return;
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) return;
+    prepareWebViews();
     mapWebView = new QWebEngineView(mapCoverView->parentWidget());
     mapWebView->setObjectName("mapWebView");
     mapWebView->setGeometry(mapCoverView->geometry());

@@ -1,17 +1,13 @@
 #include "ui/library/player/mpv_player.h"
 
 #include "ui/library/player/mpv_track_list.h"
-#include "ui/library/player/scoped_gl_current.h"
+#include "ui/library/player/picture_target.h"
 
 #include <QFile>
 #include <mpv/client.h>
-#include <mpv/render_gl.h>
+#include <mpv/render.h>
 
 #include <QCoreApplication>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
-#include <QOpenGLFramebufferObject>
-#include <QOpenGLFunctions>
 #include <QThreadPool>
 #include <QTimer>
 #include <clocale>
@@ -23,29 +19,15 @@ namespace tarvik {
 
 namespace {
 
-// Pictures are drawn in the player's own context and shown by whichever
-// widget hosts the player, so every GL context of the program must share
-// objects. The attribute only takes effect before QApplication exists.
-const bool kShareContexts = [] {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    return true;
-}();
-
 // Marks the reply to a load's duration question, next to its track-list question.
 constexpr uint64_t kDurationReplyTag = uint64_t(1) << 62;
 enum Observed : uint64_t { TimePos = 1, Duration, Pause, Speed, Direction, Eof, DisplayWidth, DisplayHeight, VoConfigured };
 // Replies to seek requests carry ids from here on.
 constexpr uint64_t kFirstSeekReply = 1000;
 
-void* glProcAddress(void*, const char* name) {
-    QOpenGLContext* ctx = QOpenGLContext::currentContext();
-    return ctx ? reinterpret_cast<void*>(ctx->getProcAddress(name)) : nullptr;
-}
-
 }  // namespace
 
 MpvPlayer::MpvPlayer(QObject* parent) : QObject(parent) {
-    (void)kShareContexts;
     // libmpv refuses to start under a locale whose decimal point is not '.'.
     std::setlocale(LC_NUMERIC, "C");
     mpv_ = mpv_create();
@@ -87,51 +69,17 @@ MpvPlayer::MpvPlayer(QObject* parent) : QObject(parent) {
     mpv_observe_property(mpv_, DisplayWidth, "dwidth", MPV_FORMAT_INT64);
     mpv_observe_property(mpv_, DisplayHeight, "dheight", MPV_FORMAT_INT64);
     mpv_set_wakeup_callback(mpv_, &MpvPlayer::onWakeup, this);
-    if (!initGl()) qWarning("MpvPlayer: no OpenGL context; playing without a picture");
+    target_ = PictureTarget::create(mpv_, &MpvPlayer::onRenderUpdate, this);
+    if (!target_) qWarning("MpvPlayer: mpv cannot draw here; playing without a picture");
 }
 
 MpvPlayer::~MpvPlayer() { shutdown(); }
-
-bool MpvPlayer::initGl() {
-    QOpenGLContext* share = QOpenGLContext::globalShareContext();
-    if (!share) return false;
-    gl_ = std::make_unique<QOpenGLContext>();
-    gl_->setShareContext(share);
-    gl_->setFormat(share->format());
-    if (!gl_->create()) return false;
-    surface_ = std::make_unique<QOffscreenSurface>();
-    surface_->setFormat(gl_->format());
-    surface_->create();
-    ScopedGlCurrent current(gl_.get(), surface_.get());
-    if (!current.ok()) return false;
-    mpv_opengl_init_params glInit{&glProcAddress, nullptr};
-    mpv_render_param params[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_OPENGL)},
-                                 {MPV_RENDER_PARAM_OPENGL_INIT_PARAMS, &glInit},
-                                 {MPV_RENDER_PARAM_INVALID, nullptr}};
-    if (mpv_render_context_create(&render_, mpv_, params) < 0) {
-        render_ = nullptr;
-        return false;
-    }
-    mpv_render_context_set_update_callback(render_, &MpvPlayer::onRenderUpdate, this);
-    return true;
-}
 
 void MpvPlayer::shutdown() {
     if (!mpv_) return;
     // can reach a deleted object.
     mpv_set_wakeup_callback(mpv_, nullptr, nullptr);
-    if (render_ || fbo_ || heldFbo_) {
-        ScopedGlCurrent current(gl_.get(), surface_.get());
-        if (render_) {
-            mpv_render_context_set_update_callback(render_, nullptr, nullptr);
-            mpv_render_context_free(render_);
-            render_ = nullptr;
-        }
-        fbo_.reset();
-        heldFbo_.reset();
-    }
-    gl_.reset();
-    surface_.reset();
+    target_.reset();
     hasFrame_ = false;
     mpv_handle* handle = mpv_;
     mpv_ = nullptr;
@@ -217,7 +165,7 @@ void MpvPlayer::setHeld(bool held) {
     held_ = held;
     if (!held && repaintOwed_) {
         repaintOwed_ = false;
-        std::swap(fbo_, heldFbo_);
+        if (target_) target_->showAside();
         emit frameRendered();
     }
     int pause = requestedRate_ == 0.0f || held_ ? 1 : 0;
@@ -288,8 +236,10 @@ void MpvPlayer::setMuted(bool muted) {
     if (mpv_) mpv_set_property_async(mpv_, 0, "mute", MPV_FORMAT_FLAG, &flag);
 }
 
-unsigned MpvPlayer::textureId() const { return hasFrame_ && fbo_ ? fbo_->texture() : 0; }
-QSize MpvPlayer::textureSize() const { return fbo_ ? fbo_->size() : QSize(); }
+bool MpvPlayer::hasPicture() const { return hasFrame_ && target_ && target_->hasPicture(); }
+unsigned MpvPlayer::textureId() const { return hasPicture() ? target_->textureId() : 0; }
+QImage MpvPlayer::pictureImage() const { return hasPicture() ? target_->image() : QImage(); }
+QSize MpvPlayer::pictureSize() const { return target_ ? target_->pictureSize() : QSize(); }
 
 void MpvPlayer::setShownSize(const void* viewer, QSize size) {
     const QSize before = drawnSize();
@@ -445,40 +395,17 @@ void MpvPlayer::updateRate() {
 }
 
 void MpvPlayer::renderFrame() {
-    if (!render_) return;
-    if (mpv_render_context_update(render_) & MPV_RENDER_UPDATE_FRAME) frameOwed_ = true;
+    if (!target_) return;
+    if (target_->update() & MPV_RENDER_UPDATE_FRAME) frameOwed_ = true;
     const QSize size = drawnSize();
-    const bool resized = fbo_ && !size.isEmpty() && fbo_->size() != size;
+    const bool resized = target_->hasPicture() && !size.isEmpty() && target_->pictureSize() != size;
     if (!frameOwed_ && !resized) return;
-    ScopedGlCurrent current(gl_.get(), surface_.get());
-    if (!current.ok()) return;
+    // Held, a new picture is drawn aside, the shown one stays.
+    const bool aside = held_ && hasFrame_;
     // mpv's video thread waits (up to 200 ms) for each new frame to be drawn,
     // so a frame that comes before its size is known is drawn small at once
     // and owed again at its size.
-    const QSize drawn = size.isEmpty() ? QSize(16, 16) : size;
-    QOpenGLFunctions* f = gl_->functions();
-    // Held, a new picture goes into a second texture, the shown one stays.
-    const bool aside = held_ && hasFrame_;
-    std::unique_ptr<QOpenGLFramebufferObject>& fbo = aside ? heldFbo_ : fbo_;
-    if (!fbo || fbo->size() != drawn) {
-        fbo = std::make_unique<QOpenGLFramebufferObject>(drawn);
-        // Views are usually smaller than the video: filter when scaling down.
-        f->glBindTexture(GL_TEXTURE_2D, fbo->texture());
-        f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-        f->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
-        f->glBindTexture(GL_TEXTURE_2D, 0);
-    }
-    mpv_opengl_fbo target{int(fbo->handle()), drawn.width(), drawn.height(), 0};
-    int flip = 0;
-    // Due already (see video-timing-offset): the interface thread never waits here.
-    int block = 0;
-    mpv_render_param params[] = {{MPV_RENDER_PARAM_OPENGL_FBO, &target},
-                                 {MPV_RENDER_PARAM_FLIP_Y, &flip},
-                                 {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &block},
-                                 {MPV_RENDER_PARAM_INVALID, nullptr}};
-    mpv_render_context_render(render_, params);
-    // The texture is read by the widgets' contexts next.
-    f->glFlush();
+    if (!target_->render(size.isEmpty() ? QSize(16, 16) : size, aside)) return;
     if (size.isEmpty()) return;
     frameOwed_ = false;
     const bool first = !hasFrame_;

@@ -1,26 +1,25 @@
 #pragma once
-// One libmpv player. It draws into a texture of its own GL context, shared
-// with every widget's context, so a picture can move from one widget to
-// another (front/rear swap, full screen) without reloading or re-creating
-// the decoder. All mpv calls made from the interface thread are asynchronous;
-// mpv's events arrive on the Qt event loop.
+// One libmpv player. It draws into a picture of its own (PictureTarget), so
+// a picture can move from one widget to another (front/rear swap, full
+// screen) without reloading or re-creating the decoder. All mpv calls made
+// from the interface thread are asynchronous; mpv's events arrive on the Qt
+// event loop.
 
 #include <QHash>
+#include <QImage>
 #include <QObject>
 #include <QSize>
 #include <QString>
 #include <deque>
 #include <memory>
 
-class QOffscreenSurface;
-class QOpenGLContext;
-class QOpenGLFramebufferObject;
 struct mpv_handle;
-struct mpv_render_context;
 struct mpv_event;
 struct mpv_node;
 
 namespace tarvik {
+
+class PictureTarget;
 
 class MpvPlayer : public QObject {
     Q_OBJECT
@@ -75,9 +74,13 @@ public:
     QSize videoSize() const { return videoSize_; }
     QString path() const { return path_; }
 
-    // The latest picture; 0 until the first frame was drawn.
+    // A frame of the playing file has been drawn.
+    bool hasPicture() const;
+    // The latest picture, as a texture of the shared GL contexts (0 when
+    // pictures are images) or as an image (null when they are textures).
     unsigned textureId() const;
-    QSize textureSize() const;
+    QImage pictureImage() const;
+    QSize pictureSize() const;
     // The size (in device pixels) at which one widget shows this player's
     // pictures; an empty size when it no longer does. Pictures are drawn no
     // larger than the largest of these: on a software renderer, drawing
@@ -106,7 +109,6 @@ private:
     void updateRate();
     // The size pictures are drawn at: the video's, fitted into the largest view.
     QSize drawnSize() const;
-    bool initGl();
     void command(std::initializer_list<const char*> args, uint64_t reply = 0);
     // A command or property change that makes mpv seek (load, seek, step
     // back, turning round): steps wait until its own restart.
@@ -115,11 +117,7 @@ private:
     static void onRenderUpdate(void* self);
 
     mpv_handle* mpv_ = nullptr;
-    mpv_render_context* render_ = nullptr;
-    std::unique_ptr<QOpenGLContext> gl_;
-    std::unique_ptr<QOffscreenSurface> surface_;
-    std::unique_ptr<QOpenGLFramebufferObject> fbo_;
-    std::unique_ptr<QOpenGLFramebufferObject> heldFbo_;  // drawn while held, shown when let go
+    std::unique_ptr<PictureTarget> target_;
     bool hasFrame_ = false;
     bool retiring_ = false;
     bool frameOwed_ = false;  // mpv has a frame not yet drawn at the picture's size

@@ -114,7 +114,7 @@ bool OrvoAVView::adoptPreloaded() {
     // Its reports went out before anyone listened: they are made here again.
     // A spare that has no picture to show yet would never report one: the
     // clip is then opened the plain way.
-    if (!player_->hasVideo() || !player_->textureId()) return false;
+    if (!player_->hasVideo() || !player_->hasPicture()) return false;
     setUpPlaybackOfAsset(player_->hasVideo());
     stopLoadingAnimationAndHandleError(false);
     setPictureVisible(true);

@@ -1,14 +1,14 @@
 #include "ui/library/player/video_surface.h"
 
-#include <QOpenGLContext>
-#include <QOpenGLFunctions>
-#include <QOpenGLTextureBlitter>
 #include <QApplication>
+#include <QPainter>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
 
+#include "ui/base/graphics/software_pictures.h"
 #include "ui/library/player/composition_pacer.h"
+#include "ui/library/player/gl_picture_view.h"
 #include "ui/library/player/mpv_player.h"
 
 namespace tarvik {
@@ -42,7 +42,7 @@ void repaintGathered() {
     QList<QWidget*> windows;
     for (const auto& s : due) {
         if (!s) continue;
-        s->update();
+        s->repaintPicture();
         if (!windows.contains(s->window())) windows << s->window();
     }
     for (QWidget* w : windows)
@@ -74,22 +74,29 @@ void VideoSurface::repaintSoon() {
     if (list.size() == 1) gatherTimer()->start(kGatherMs);
 }
 
-VideoSurface::VideoSurface(QWidget* parent) : QOpenGLWidget(parent) { allSurfaces() << this; }
+VideoSurface::VideoSurface(QWidget* parent) : QWidget(parent) {
+    allSurfaces() << this;
+    // Every pixel is painted here: nothing of the parent needs drawing first.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    if (!softwarePictures()) gl_ = new GlPictureView(this);
+}
 
 MpvPlayer* VideoSurface::shownPlayer() const { return player_; }
 
 VideoSurface::~VideoSurface() {
     allSurfaces().removeOne(this);
     if (player_) player_->setShownSize(this, QSize());
-    makeCurrent();
-    blitter_.reset();
-    doneCurrent();
 }
 
-void VideoSurface::releaseGl() {
-    makeCurrent();
-    blitter_.reset();
-    doneCurrent();
+void VideoSurface::repaintPicture() {
+    if (!gl_) {
+        update();
+        return;
+    }
+    gl_->setPlayer(player_);
+    gl_->setPictureVisible(pictureVisible_);
+    gl_->setFlipped(flipped_);
+    gl_->update();
 }
 
 void VideoSurface::showPlayer(MpvPlayer* player) {
@@ -99,7 +106,7 @@ void VideoSurface::showPlayer(MpvPlayer* player) {
     player_ = player;
     reportShownSize();
     if (player) frameConnection_ = connect(player, &MpvPlayer::frameRendered, this, &VideoSurface::repaintSoon);
-    update();
+    repaintPicture();
 }
 
 void VideoSurface::reportShownSize() {
@@ -107,56 +114,58 @@ void VideoSurface::reportShownSize() {
 }
 
 void VideoSurface::resizeEvent(QResizeEvent* event) {
-    QOpenGLWidget::resizeEvent(event);
+    QWidget::resizeEvent(event);
+    if (gl_) gl_->resize(size());
     reportShownSize();
 }
 
 void VideoSurface::showEvent(QShowEvent* event) {
-    QOpenGLWidget::showEvent(event);
-    CompositionPacer::of(window(), &playingIn);
+    QWidget::showEvent(event);
+    // Only a window composed through OpenGL is composed whole at every change.
+    if (gl_) CompositionPacer::of(window(), &playingIn);
     reportShownSize();
 }
 
 void VideoSurface::hideEvent(QHideEvent* event) {
-    QOpenGLWidget::hideEvent(event);
+    QWidget::hideEvent(event);
     reportShownSize();
 }
 
 void VideoSurface::setPictureVisible(bool visible) {
     pictureVisible_ = visible;
-    update();
+    repaintPicture();
 }
 
 void VideoSurface::setPictureFlipped(bool flipped) {
     flipped_ = flipped;
-    update();
+    repaintPicture();
 }
 
-void VideoSurface::initializeGL() {
-    // Moving the widget to another window (full screen) replaces its context.
-    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &VideoSurface::releaseGl, Qt::UniqueConnection);
-}
-
-void VideoSurface::paintGL() {
-    QOpenGLFunctions* f = context()->functions();
-    f->glClearColor(0, 0, 0, 1);
-    f->glClear(GL_COLOR_BUFFER_BIT);
-    if (!pictureVisible_ || !player_ || !player_->textureId()) return;
-    if (!blitter_) {
-        blitter_ = std::make_unique<QOpenGLTextureBlitter>();
-        if (!blitter_->create()) return;
+void VideoSurface::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QImage image = gl_ || !pictureVisible_ || !player_ ? QImage() : player_->pictureImage();
+    if (image.isNull()) {
+        painter.fillRect(rect(), Qt::black);
+        return;
     }
-    const QSize out = size() * devicePixelRatioF();
-    const QSize fitted = player_->textureSize().scaled(out, Qt::KeepAspectRatio);
-    const QRect target(QPoint((out.width() - fitted.width()) / 2, (out.height() - fitted.height()) / 2), fitted);
-    // mpv draws an FBO top row first. A camera mounted upside down needs its
-    // picture turned half a turn, not mirrored: flip the rows and the columns.
-    const auto origin = flipped_ ? QOpenGLTextureBlitter::OriginBottomLeft : QOpenGLTextureBlitter::OriginTopLeft;
-    QMatrix4x4 transform = QOpenGLTextureBlitter::targetTransform(target, QRect(QPoint(), out));
-    if (flipped_) transform.scale(-1.0f, 1.0f);
-    blitter_->bind();
-    blitter_->blit(player_->textureId(), transform, origin);
-    blitter_->release();
+    // Drawn at the size shown, the picture is copied, not scaled, unless
+    // the view changed size since it was drawn. Whole device pixels: a picture edge inside a pixel would leave a row
+    // of the previous picture beside it.
+    const qreal ratio = devicePixelRatioF();
+    const QSize out = size() * ratio;
+    const QSize fitted = image.size().scaled(out, Qt::KeepAspectRatio);
+    const QRect pixels(QPoint((out.width() - fitted.width()) / 2, (out.height() - fitted.height()) / 2), fitted);
+    const QRectF target(QPointF(pixels.topLeft()) / ratio, QSizeF(pixels.size()) / ratio);
+    const QRegion bars = QRegion(rect()) - target.toAlignedRect();
+    for (const QRect& bar : bars) painter.fillRect(bar, Qt::black);
+    // A camera mounted upside down needs its picture turned half a turn, not mirrored.
+    if (flipped_) {
+        painter.translate(target.center());
+        painter.rotate(180);
+        painter.translate(-target.center());
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(target, image);
 }
 
 }  // namespace tarvik

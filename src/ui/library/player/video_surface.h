@@ -1,18 +1,17 @@
 #pragma once
-// A GL widget that shows the pictures of one MpvPlayer, fitted into the
-// widget with black bars, optionally flipped vertically.
+// A widget that shows the pictures of one MpvPlayer, fitted into the widget
+// with black bars, optionally turned half a turn. Pictures drawn by the
+// processor it paints itself; textures are shown by a GL view inside it.
 
-#include <QOpenGLWidget>
 #include <QPointer>
-#include <memory>
-
-class QOpenGLTextureBlitter;
+#include <QWidget>
 
 namespace tarvik {
 
+class GlPictureView;
 class MpvPlayer;
 
-class VideoSurface : public QOpenGLWidget {
+class VideoSurface : public QWidget {
     Q_OBJECT
 public:
     explicit VideoSurface(QWidget* parent = nullptr);
@@ -20,6 +19,8 @@ public:
 
     // Playing and shown: a new picture of this view is on its way.
     bool awaitsFrame() const;
+    // Shows the player's latest picture.
+    void repaintPicture();
 
 protected:
     void showPlayer(MpvPlayer* player);
@@ -29,14 +30,12 @@ protected:
     bool pictureVisible() const { return pictureVisible_; }
     void setPictureFlipped(bool flipped);
 
-    void initializeGL() override;
-    void paintGL() override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void releaseGl();
     // Tells the shown player how large its pictures are shown here.
     void reportShownSize();
     // A new picture: shown with whatever other view has one a moment later.
@@ -44,7 +43,7 @@ private:
 
     QPointer<MpvPlayer> player_;
     QMetaObject::Connection frameConnection_;
-    std::unique_ptr<QOpenGLTextureBlitter> blitter_;
+    GlPictureView* gl_ = nullptr;  // null with software pictures
     bool pictureVisible_ = false;
     bool flipped_ = false;
 };

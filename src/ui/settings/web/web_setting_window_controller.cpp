@@ -12,6 +12,8 @@
 #include <QWebEngineScriptCollection>
 #include <QWebEngineView>
 
+#include "ui/base/graphics/software_pictures.h"
+
 #include "core/settings/m420/settings_alert_sink.h"
 #include "core/settings/web/web_page_scripts.h"
 #include "ui/controls/image_button.h"
@@ -64,6 +66,7 @@ WebSettingWindowController::WebSettingWindowController(const std::string& folder
     channel_ = new QWebChannel(this);
     channel_->registerObject(QString::fromUtf8(kDashcamChannelName), webDashcam_);
     page_->setWebChannel(channel_);
+    prepareWebViews();
     webView_ = new QWebEngineView(this);
     webView_->setPage(page_);
     webView_->setContextMenuPolicy(Qt::NoContextMenu);
