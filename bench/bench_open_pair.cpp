@@ -24,6 +24,7 @@
 #include <filesystem>
 #include <fstream>
 #include <mutex>
+#include <vector>
 
 #include "bench_table.h"
 #include "event_wait.h"
@@ -34,6 +35,7 @@
 #include "ui/shell/main_window.h"
 #include "ui/shell/main_window_controller.h"
 #include "ui/shell/main_window_views.h"
+#include "ui/base/graphics/software_pictures.h"
 #include "ui/library/playback/dashboard_widgets.h"
 #include "ui/library/playback/playback_controller.h"
 #include "ui/library/player/mpv_player.h"
@@ -89,9 +91,11 @@ void settle() {
     QCoreApplication::processEvents();
 }
 
-// The baseline: mpv's own client and OpenGL render API, the same options and
-// sound output as the viewer's players, one handle per file, both opened at
-// once; done when each has rendered a frame.
+// The baseline: mpv's own client and render API, the same options and sound
+// output as the viewer's players, one handle per file, both opened at once;
+// done when each has rendered a frame. It draws the way the viewer draws on
+// this machine: through OpenGL, or by the processor where the only OpenGL is
+// a software one.
 class PlainMpvPair {
 public:
     double openSeconds(const fs::path& a, const fs::path& b) {
@@ -110,6 +114,12 @@ public:
                 while (mpv_wait_event(x.mpv, 0)->event_id != MPV_EVENT_NONE) {
                 }
                 if (x.framed || !(mpv_render_context_update(x.render) & MPV_RENDER_UPDATE_FRAME)) continue;
+                x.framed = true;
+                ++framed;
+                if (!x.gl) {
+                    renderInMemory(x);
+                    continue;
+                }
                 x.gl->makeCurrent(x.surface.get());
                 mpv_opengl_fbo fbo{static_cast<int>(x.fbo->handle()), x.fbo->width(), x.fbo->height(), 0};
                 int flip = 1;
@@ -119,8 +129,6 @@ public:
                 mpv_render_context_render(x.render, params);
                 x.gl->functions()->glFinish();
                 x.gl->doneCurrent();
-                x.framed = true;
-                ++framed;
             }
         }
         const double s = std::chrono::duration<double>(Clock::now() - t0).count();
@@ -135,8 +143,23 @@ private:
         std::unique_ptr<QOpenGLContext> gl;
         std::unique_ptr<QOffscreenSurface> surface;
         std::unique_ptr<QOpenGLFramebufferObject> fbo;
+        std::vector<unsigned char> pixels;
         bool framed = false;
     };
+
+    static constexpr int kWidth = 640, kHeight = 360;
+
+    static void renderInMemory(Player& x) {
+        int size[2] = {kWidth, kHeight};
+        char format[] = "bgr0";
+        std::size_t stride = kWidth * 4;
+        mpv_render_param params[] = {{MPV_RENDER_PARAM_SW_SIZE, size},
+                                     {MPV_RENDER_PARAM_SW_FORMAT, format},
+                                     {MPV_RENDER_PARAM_SW_STRIDE, &stride},
+                                     {MPV_RENDER_PARAM_SW_POINTER, x.pixels.data()},
+                                     {MPV_RENDER_PARAM_INVALID, nullptr}};
+        mpv_render_context_render(x.render, params);
+    }
 
     static void* procAddress(void*, const char* name) {
         return reinterpret_cast<void*>(QOpenGLContext::currentContext()->getProcAddress(name));
@@ -155,6 +178,13 @@ private:
                                    {"load-scripts", "no"}, {"ytdl", "no"}, {"terminal", "no"}, {"sid", "no"}})
             mpv_set_option_string(p.mpv, k, v);
         if (mpv_initialize(p.mpv) < 0) return false;
+        if (softwarePictures()) {
+            p.pixels.resize(std::size_t(kWidth) * kHeight * 4);
+            mpv_render_param sw[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_SW)},
+                                     {MPV_RENDER_PARAM_INVALID, nullptr}};
+            if (mpv_render_context_create(&p.render, p.mpv, sw) < 0) return false;
+            return load(p, file);
+        }
         p.gl = std::make_unique<QOpenGLContext>();
         p.gl->setShareContext(QOpenGLContext::globalShareContext());
         p.gl->create();
@@ -164,7 +194,7 @@ private:
         p.gl->makeCurrent(p.surface.get());
         // About the size of one of the viewer's views: the viewer's players
         // draw at the size they are shown, and so would any plain player.
-        p.fbo = std::make_unique<QOpenGLFramebufferObject>(640, 360);
+        p.fbo = std::make_unique<QOpenGLFramebufferObject>(kWidth, kHeight);
         mpv_opengl_init_params init{&PlainMpvPair::procAddress, nullptr};
         mpv_render_param params[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_OPENGL)},
                                      {MPV_RENDER_PARAM_OPENGL_INIT_PARAMS, &init},
@@ -172,6 +202,10 @@ private:
         const bool ok = mpv_render_context_create(&p.render, p.mpv, params) >= 0;
         p.gl->doneCurrent();
         if (!ok) return false;
+        return load(p, file);
+    }
+
+    bool load(Player& p, const fs::path& file) {
         mpv_render_context_set_update_callback(p.render, &PlainMpvPair::wake, this);
         mpv_set_wakeup_callback(p.mpv, &PlainMpvPair::wake, this);
         const std::string path = file.string();
@@ -182,7 +216,9 @@ private:
     void stop(Player& p) {
         if (!p.mpv) return;
         mpv_set_wakeup_callback(p.mpv, nullptr, nullptr);
-        if (p.render) {
+        if (p.render && !p.gl) {
+            mpv_render_context_free(p.render);
+        } else if (p.render) {
             p.gl->makeCurrent(p.surface.get());
             mpv_render_context_free(p.render);
             p.fbo.reset();
