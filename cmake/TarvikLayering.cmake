@@ -1,6 +1,6 @@
 # Which folder may include which. The interface's shell (the main window and its
 # controllers) sits on top: nothing else includes it. The base (pane frame,
-# preferences, notification centre, alert box), the controls and the languages
+# preferences, notification centre, alert box, how pictures are drawn), the controls and the languages
 # are the floor every other interface folder stands on, so they include only
 # each other. The core includes no interface and no command.
 #
