@@ -15,6 +15,7 @@
 #include <filesystem>
 
 #include "ui/base/graphics/software_pictures.h"
+#include "ui/controls/image_button.h"
 #include "cardgen/numbered_frames.h"
 #include "core/library/clip_catalogue.h"
 #include "ui/shell/catalogue_controller.h"
@@ -282,6 +283,44 @@ private slots:
         key(Qt::Key_Space);
         number = -1;
         QVERIFY(pausedTogether(&number));
+        QVERIFY(alerts_.isEmpty());
+    }
+
+    // Swap, the next and previous pair and stop, from their buttons: each
+    // leaves both views on one frame.
+    void theButtonsLeaveBothOnOneFrame() {
+        openPair("20261121_100000_F.mp4");
+        QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+        key(Qt::Key_Space);
+        int number = -1;
+        QVERIFY(pausedTogether(&number));
+        const auto press = [](QWidget* button) { QTest::mouseClick(button, Qt::LeftButton); };
+        const auto both = [this] { return QString("%1/%2").arg(shownNumber(big())).arg(shownNumber(small())); };
+        // A swap plays on, as after a double-click.
+        for (const char* what : {"swapped", "swapped back"}) {
+            press(window_->views().switchVideoButton);
+            QTRY_VERIFY_WITH_TIMEOUT(!playback().isVideoPaused(), 5000);
+            key(Qt::Key_Space);
+            number = -1;
+            QVERIFY2(pausedTogether(&number), qPrintable(QString(what) + ": " + both()));
+        }
+
+        press(window_->views().playNextFileButton);
+        QTRY_VERIFY_WITH_TIMEOUT(shownNumber(big()) >= kSecondPair, kLoadMs);
+        if (!playback().isVideoPaused()) key(Qt::Key_Space);
+        number = -1;
+        QVERIFY2(pausedTogether(&number) && number >= kSecondPair, qPrintable("next: " + both()));
+        press(window_->views().playPrevFileButton);
+        QTRY_VERIFY_WITH_TIMEOUT(shownNumber(big()) >= 0 && shownNumber(big()) < kSecondPair, kLoadMs);
+        if (!playback().isVideoPaused()) key(Qt::Key_Space);
+        number = -1;
+        QVERIFY2(pausedTogether(&number), qPrintable("previous: " + both()));
+
+        key(Qt::Key_Space);
+        QTRY_VERIFY_WITH_TIMEOUT(shownNumber(big()) > number + 15, 5000);
+        press(window_->views().stopButton);
+        number = 0;
+        QVERIFY2(pausedTogether(&number), qPrintable("stopped: " + both()));
         QVERIFY(alerts_.isEmpty());
     }
 
