@@ -61,6 +61,8 @@ void FrontRearLock::lock(MpvPlayer* front, MpvPlayer* rear) {
     connections_ << connect(front, &MpvPlayer::seekRequested, this, &FrontRearLock::mirrorSeek);
     connections_ << connect(front, &MpvPlayer::timeChanged, this, &FrontRearLock::onFrontTime);
     connections_ << connect(front, &MpvPlayer::seeked, this, &FrontRearLock::follow);
+    connections_ << connect(front, &MpvPlayer::heldFrameRendered, this, &FrontRearLock::follow);
+    connections_ << connect(rear, &MpvPlayer::heldFrameRendered, this, &FrontRearLock::follow);
     connections_ << connect(front, &MpvPlayer::rateChanged, this, &FrontRearLock::follow);
     connections_ << connect(front, &MpvPlayer::loaded, this, &FrontRearLock::follow);
     connections_ << connect(rear, &MpvPlayer::loaded, this, &FrontRearLock::follow);
@@ -135,7 +137,11 @@ void FrontRearLock::follow() {
     if (!front_ || !rear_ || !front_->isLoaded() || !rear_->isLoaded() || front_->isSeeking()) return;
     if (gated_) {
         // A rear at its end shows its last picture: nothing to wait for.
-        if (rear_->isSeeking() && !pastRearEnd(frontTime_)) return;
+        const bool rearAtEnd = pastRearEnd(frontTime_);
+        if (rear_->isSeeking() && !rearAtEnd) return;
+        // Both new pictures are shown in one go: one drawn a moment after
+        // its seek ended would otherwise appear beside the other's old one.
+        if (!front_->drewSinceSeek() || (!rear_->drewSinceSeek() && !rearAtEnd)) return;
         openGate();
     }
     const float rate = front_->requestedRate();

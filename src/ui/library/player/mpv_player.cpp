@@ -118,6 +118,7 @@ void MpvPlayer::command(std::initializer_list<const char*> args, uint64_t reply)
 
 uint64_t MpvPlayer::beginSeek() {
     seeking_ = true;
+    drewSinceSeek_ = false;
     seekAnswered_ = false;
     seekReply_ = seekReply_ < kFirstSeekReply ? kFirstSeekReply : seekReply_ + 1;
     return seekReply_;
@@ -408,16 +409,15 @@ void MpvPlayer::renderFrame() {
     if (!target_->render(size.isEmpty() ? QSize(16, 16) : size, aside)) return;
     if (size.isEmpty()) return;
     frameOwed_ = false;
+    drewSinceSeek_ = true;
     const bool first = !hasFrame_;
     hasFrame_ = true;
     if (first) emit firstFrameRendered();
-    // Held, the picture found by a seek is drawn (mpv's seek ends only once
-    // it is) but not shown until the other player's is there too.
-    if (aside) {
-        repaintOwed_ = true;
-        return;
-    }
-    emit frameRendered();
+    // Held, the picture found by a seek is drawn aside and shown once the
+    // other player's is there too; a file's first picture is shown at once.
+    if (aside) repaintOwed_ = true;
+    else emit frameRendered();
+    if (held_) emit heldFrameRendered();
 }
 
 }  // namespace tarvik

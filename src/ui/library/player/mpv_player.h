@@ -58,6 +58,9 @@ public:
     void seekExact(double seconds);
     // A seek (or load, or step back) is on its way to its picture.
     bool isSeeking() const { return seeking_; }
+    // A picture was drawn since the latest seek was asked for. mpv may end
+    // a seek before the host has drawn its picture.
+    bool drewSinceSeek() const { return drewSinceSeek_; }
     void frameStep();
     void frameBackStep();
     void setVolume(float volume);  // 0..1
@@ -99,6 +102,8 @@ signals:
     void endReached();
     void frameRendered();
     void firstFrameRendered();
+    // A picture drawn while held.
+    void heldFrameRendered();
 
 private:
     Q_INVOKABLE void processEvents();
@@ -133,6 +138,7 @@ private:
     void requestStill();
     void runPendingSteps();
     bool seeking_ = false;
+    bool drewSinceSeek_ = true;
     uint64_t seekReply_ = 0;  // reply id of the latest seek request
     bool seekAnswered_ = true;
     std::deque<Step> pendingSteps_;
