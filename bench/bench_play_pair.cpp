@@ -1,10 +1,11 @@
 // The processor time of playing a 1080p30 front/rear pair for 20 s in the
 // real main window (both views, one kept on the other's time), against two
 // plain mpv processes playing the same two files for 20 s, in the same run.
-// Like with like: without hardware decoding here, plain mpv decodes in
-// software and draws with its default gpu output through the same Mesa
-// OpenGL (llvmpipe under Xvfb) that the viewer's players draw with, each
-// into a window of about the size of one of the viewer's views.
+// Without hardware decoding here, plain mpv decodes in software and draws
+// with its default gpu output through the display's OpenGL (llvmpipe under
+// Xvfb), each into a window of about the size of one of the viewer's views;
+// the viewer, finding only a software OpenGL, draws its pictures by the
+// processor instead.
 //
 // Then how well the two views keep one time, read from the screen as a
 // user sees it: a trip of two pairs whose frames show their own numbers is
