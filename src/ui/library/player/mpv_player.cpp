@@ -7,7 +7,6 @@
 #include <mpv/client.h>
 #include <mpv/render.h>
 
-#include <QCoreApplication>
 #include <QThreadPool>
 #include <QTimer>
 #include <clocale>
